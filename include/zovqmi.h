@@ -114,11 +114,11 @@ typedef struct QmiResult {
 } QmiResult;
 
 /* CTL: one entry of the service version lists (5 bytes). */
-typedef struct QmiCTLVersionEntry {
+typedef struct CTLVersionEntry {
     uint8_t serviceType;
     uint16_t majorVersion;
     uint16_t minorVersion;
-} QmiCTLVersionEntry;
+} CTLVersionEntry;
 
 #pragma pack(pop)
 
@@ -152,10 +152,10 @@ ZOVQMI_API int zovQMICTLSetInstanceIDReq(uint8_t* buf, int bufsize, uint8_t inst
 ZOVQMI_API int zovQMICTLSetInstanceIDResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* assignedId);
 ZOVQMI_API int zovQMICTLGetVersionInfoReq(uint8_t* buf, int bufsize);
 ZOVQMI_API int zovQMICTLGetVersionInfoResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
-                                           QmiCTLVersionEntry* list);
+                                           CTLVersionEntry* list);
 ZOVQMI_API int zovQMICTLGetVersionInfoRespGetAddendumVersionList(const uint8_t* msg, int len, uint8_t* labelLength,
                                                                  uint8_t* label, uint8_t* count,
-                                                                 QmiCTLVersionEntry* list);
+                                                                 CTLVersionEntry* list);
 ZOVQMI_API int zovQMICTLGetClientIDReq(uint8_t* buf, int bufsize, uint8_t serviceType);
 ZOVQMI_API int zovQMICTLGetClientIDResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* serviceType,
                                         uint8_t* clientId);

@@ -6,7 +6,7 @@
 static_assert(sizeof(QmiTlvRecord) == 1027, "QmiTlvRecord is 1027 bytes");
 static_assert(sizeof(QmiResult) == 4, "QmiResult is 4 bytes");
 static_assert(sizeof(QmiQmuxHeader) == 6, "QmiQmuxHeader is 6 bytes");
-static_assert(sizeof(QmiCTLVersionEntry) == 5, "version entries are 5 bytes");
+static_assert(sizeof(CTLVersionEntry) == 5, "version entries are 5 bytes");
 static_assert(sizeof(QmiMessageEntry) == 4 + sizeof(void*), "message entries are ids, length and a pointer");
 
 int main() {

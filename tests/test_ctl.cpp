@@ -160,7 +160,7 @@ TEST(CtlResponses, GetVersionInfoDecodesTheVersionList) {
     Bytes msg = ctlMessage(0x0021, {result(), tlv(0x01, versions())});
     QmiResult r;
     uint8_t count = 0;
-    QmiCTLVersionEntry list[4];
+    CTLVersionEntry list[4];
     std::memset(list, 0xEE, sizeof list);
     EXPECT_EQ(zovQMICTLGetVersionInfoResp(msg.data(), int(msg.size()), &r, &count, list), int(7 + 3 + 16));
     EXPECT_EQ(count, 3);
@@ -184,7 +184,7 @@ TEST(CtlResponses, VersionListCountBeyondTheBufferIsMalformed) {
     Bytes msg = ctlMessage(0x0021, {result(), tlv(0x01, {0x05, 0x01, 0x01, 0x00})});
     QmiResult r;
     uint8_t count = 0xEE;
-    QmiCTLVersionEntry list[5];
+    CTLVersionEntry list[5];
     EXPECT_EQ(zovQMICTLGetVersionInfoResp(msg.data(), int(msg.size()), &r, &count, list), ZOVQMI_ERR_MALFORMED);
     EXPECT_EQ(count, 0xEE);
     // Without a list only the count is read, and that is inside the buffer.
@@ -197,7 +197,7 @@ TEST(CtlResponses, AddendumVersionListReadsLabelThenList) {
     Bytes msg = ctlMessage(0x0021, {result(), tlv(0x01, {0x00}), tlv(0x10, value)});
     uint8_t labelLength = 0, count = 0;
     Bytes label(6, 0xEE);
-    QmiCTLVersionEntry list[2];
+    CTLVersionEntry list[2];
     std::memset(list, 0xEE, sizeof list);
     EXPECT_EQ(zovQMICTLGetVersionInfoRespGetAddendumVersionList(msg.data(), int(msg.size()), &labelLength,
                                                                 label.data(), &count, list),

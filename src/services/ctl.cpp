@@ -13,7 +13,7 @@ constexpr Header C = kControl;
 
 // A version list: count byte at `off`, then count 5-byte entries (service
 // type, major, minor) decoded into the caller's 5-byte records.
-void versionList(Dec& d, size_t off, uint8_t* count, QmiCTLVersionEntry* list) {
+void versionList(Dec& d, size_t off, uint8_t* count, CTLVersionEntry* list) {
     uint8_t n = d.u8(off);
     d.put(count, n);
     if (!list) return;
@@ -46,13 +46,13 @@ extern "C" int zovQMICTLSetInstanceIDResp(const uint8_t* msg, int len, QmiResult
 // GetVersionInfo 0x0021
 extern "C" int zovQMICTLGetVersionInfoReq(uint8_t* buf, int bufsize) { return req<C>(buf, bufsize, 0x0021); }
 extern "C" int zovQMICTLGetVersionInfoResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
-                                           QmiCTLVersionEntry* list) {
+                                           CTLVersionEntry* list) {
     return resp<C>(msg, len, result, 0x0021, all(count), [=](Dec& d) { versionList(d, 0, count, list); });
 }
 // Item 0x10: label length, label, then a version list behind the label.
 extern "C" int zovQMICTLGetVersionInfoRespGetAddendumVersionList(const uint8_t* msg, int len, uint8_t* labelLength,
                                                                  uint8_t* label, uint8_t* count,
-                                                                 QmiCTLVersionEntry* list) {
+                                                                 CTLVersionEntry* list) {
     return get<C>(msg, len, 0x0021, 0x10, all(labelLength, count), [=](Dec& d) {
         uint8_t n = d.u8(0);
         d.put(labelLength, n);
