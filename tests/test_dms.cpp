@@ -211,7 +211,8 @@ TEST(DmsPinRequests, ChangePINWritesOldThenNewPin) {
     EXPECT_EQ(zovQMIDMSUIMChangePINReq(buf.data(), 21, 2, 4, kPin.data(), 5, newPin.data()), -1);
     EXPECT_EQ(buf, buffer(32));
     EXPECT_EQ(zovQMIDMSUIMChangePINReq(buf.data(), 22, 2, 4, kPin.data(), 5, newPin.data()), 22);
-    EXPECT_EQ(head(buf, 23), cat({reqHeader(0x002A, 15), tlv(0x01, cat({{0x02, 0x04}, kPin, {0x05}, newPin})), {0xEE}}));
+    EXPECT_EQ(head(buf, 23),
+              cat({reqHeader(0x002A, 15), tlv(0x01, cat({{0x02, 0x04}, kPin, {0x05}, newPin})), {0xEE}}));
     EXPECT_EQ(zovQMIDMSUIMChangePINReq(buf.data(), 22, 2, 4, nullptr, 5, newPin.data()), -1);
     EXPECT_EQ(zovQMIDMSUIMChangePINReq(buf.data(), 22, 2, 4, kPin.data(), 5, nullptr), -1);
     EXPECT_EQ(zovQMIDMSUIMChangePINReq(nullptr, 22, 2, 4, kPin.data(), 5, newPin.data()), -1);

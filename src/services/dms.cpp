@@ -42,6 +42,22 @@ void deviceCapabilities(Dec& d, DMSDeviceCapabilities* caps) {
     out.put8(offsetof(DMSDeviceCapabilities, listCount), n);
     d.copy(out.ptr(offsetof(DMSDeviceCapabilities, list)), 11, n);
 }
+// Item 0x10 of the four PIN responses: verify and unblock retries left.
+int retriesLeft(const uint8_t* msg, int len, uint16_t id, uint8_t* verifyLeft, uint8_t* unblockLeft) {
+    return get(msg, len, id, 0x10, all(verifyLeft, unblockLeft), pair8(verifyLeft, unblockLeft));
+}
+
+// A response whose item 0x01 is an identity string.
+int textResp(const uint8_t* msg, int len, QmiResult* result, uint16_t id, uint16_t* length, void* data) {
+    return resp(msg, len, result, id, all(length), text(length, data));
+}
+// The two-value PIN requests (UnblockPIN, ChangePIN): pin id, then two
+// length-prefixed values, the second length byte right behind the first value.
+int twoValueReq(uint8_t* buf, int bufsize, uint16_t id, uint8_t pinId, uint8_t firstLength, const uint8_t* first,
+                uint8_t secondLength, const uint8_t* second) {
+    return reqTlv(buf, bufsize, id, w8(pinId), w8(firstLength), wbytes(firstLength, first), w8(secondLength),
+                  wbytes(secondLength, second));
+}
 }  // namespace
 
 // ------------------------------------------------ device identity and state --
@@ -106,28 +122,28 @@ extern "C" int zovQMIDMSGetDeviceCapResp(const uint8_t* msg, int len, QmiResult*
 extern "C" int zovQMIDMSGetDeviceMfrReq(uint8_t* buf, int bufsize) { return req(buf, bufsize, 0x0021); }
 extern "C" int zovQMIDMSGetDeviceMfrResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length,
                                          void* data) {
-    return resp(msg, len, result, 0x0021, all(length), text(length, data));
+    return textResp(msg, len, result, 0x0021, length, data);
 }
 
 // GetDeviceModelID 0x0022
 extern "C" int zovQMIDMSGetDeviceModelIDReq(uint8_t* buf, int bufsize) { return req(buf, bufsize, 0x0022); }
 extern "C" int zovQMIDMSGetDeviceModelIDResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length,
                                              void* data) {
-    return resp(msg, len, result, 0x0022, all(length), text(length, data));
+    return textResp(msg, len, result, 0x0022, length, data);
 }
 
 // GetDeviceRevID 0x0023
 extern "C" int zovQMIDMSGetDeviceRevIDReq(uint8_t* buf, int bufsize) { return req(buf, bufsize, 0x0023); }
 extern "C" int zovQMIDMSGetDeviceRevIDResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length,
                                            void* data) {
-    return resp(msg, len, result, 0x0023, all(length), text(length, data));
+    return textResp(msg, len, result, 0x0023, length, data);
 }
 
 // GetMSISDN 0x0024
 extern "C" int zovQMIDMSGetMSISDNReq(uint8_t* buf, int bufsize) { return req(buf, bufsize, 0x0024); }
 extern "C" int zovQMIDMSGetMSISDNResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length,
                                       void* data) {
-    return resp(msg, len, result, 0x0024, all(length), text(length, data));
+    return textResp(msg, len, result, 0x0024, length, data);
 }
 extern "C" int zovQMIDMSGetMSISDNRespGetMobileID(const uint8_t* msg, int len, uint16_t* length, void* data) {
     return get(msg, len, 0x0024, 0x10, all(length), text(length, data));
@@ -161,7 +177,7 @@ extern "C" int zovQMIDMSGetPowerStateResp(const uint8_t* msg, int len, QmiResult
 extern "C" int zovQMIDMSGetDeviceHardwareRevReq(uint8_t* buf, int bufsize) { return req(buf, bufsize, 0x002C); }
 extern "C" int zovQMIDMSGetDeviceHardwareRevResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length,
                                                  void* data) {
-    return resp(msg, len, result, 0x002C, all(length), text(length, data));
+    return textResp(msg, len, result, 0x002C, length, data);
 }
 
 // GetOperatingMode 0x002D
@@ -230,7 +246,7 @@ extern "C" int zovQMIDMSUIMSetPINProtectionResp(const uint8_t* msg, int len, Qmi
 }
 extern "C" int zovQMIDMSUIMSetPINProtectionRespGetRetriesLeft(const uint8_t* msg, int len, uint8_t* verifyLeft,
                                                               uint8_t* unblockLeft) {
-    return get(msg, len, 0x0027, 0x10, all(verifyLeft, unblockLeft), pair8(verifyLeft, unblockLeft));
+    return retriesLeft(msg, len, 0x0027, verifyLeft, unblockLeft);
 }
 
 // UIMVerifyPIN 0x0028
@@ -243,35 +259,33 @@ extern "C" int zovQMIDMSUIMVerifyPINResp(const uint8_t* msg, int len, QmiResult*
 }
 extern "C" int zovQMIDMSUIMVerifyPINRespGetRetriesLeft(const uint8_t* msg, int len, uint8_t* verifyLeft,
                                                        uint8_t* unblockLeft) {
-    return get(msg, len, 0x0028, 0x10, all(verifyLeft, unblockLeft), pair8(verifyLeft, unblockLeft));
+    return retriesLeft(msg, len, 0x0028, verifyLeft, unblockLeft);
 }
 
 // UIMUnblockPIN 0x0029
 extern "C" int zovQMIDMSUIMUnblockPINReq(uint8_t* buf, int bufsize, uint8_t pinId, uint8_t keyLength,
                                          const uint8_t* key, uint8_t newPinLength, const uint8_t* newPin) {
-    return reqTlv(buf, bufsize, 0x0029, w8(pinId), w8(keyLength), wbytes(keyLength, key), w8(newPinLength),
-                  wbytes(newPinLength, newPin));
+    return twoValueReq(buf, bufsize, 0x0029, pinId, keyLength, key, newPinLength, newPin);
 }
 extern "C" int zovQMIDMSUIMUnblockPINResp(const uint8_t* msg, int len, QmiResult* result) {
     return resp(msg, len, result, 0x0029);
 }
 extern "C" int zovQMIDMSUIMUnblockPINRespGetRetriesLeft(const uint8_t* msg, int len, uint8_t* verifyLeft,
                                                         uint8_t* unblockLeft) {
-    return get(msg, len, 0x0029, 0x10, all(verifyLeft, unblockLeft), pair8(verifyLeft, unblockLeft));
+    return retriesLeft(msg, len, 0x0029, verifyLeft, unblockLeft);
 }
 
 // UIMChangePIN 0x002A
 extern "C" int zovQMIDMSUIMChangePINReq(uint8_t* buf, int bufsize, uint8_t pinId, uint8_t oldPinLength,
                                         const uint8_t* oldPin, uint8_t newPinLength, const uint8_t* newPin) {
-    return reqTlv(buf, bufsize, 0x002A, w8(pinId), w8(oldPinLength), wbytes(oldPinLength, oldPin), w8(newPinLength),
-                  wbytes(newPinLength, newPin));
+    return twoValueReq(buf, bufsize, 0x002A, pinId, oldPinLength, oldPin, newPinLength, newPin);
 }
 extern "C" int zovQMIDMSUIMChangePINResp(const uint8_t* msg, int len, QmiResult* result) {
     return resp(msg, len, result, 0x002A);
 }
 extern "C" int zovQMIDMSUIMChangePINRespGetRetriesLeft(const uint8_t* msg, int len, uint8_t* verifyLeft,
                                                        uint8_t* unblockLeft) {
-    return get(msg, len, 0x002A, 0x10, all(verifyLeft, unblockLeft), pair8(verifyLeft, unblockLeft));
+    return retriesLeft(msg, len, 0x002A, verifyLeft, unblockLeft);
 }
 
 // UIMGetPINStatus 0x002B
@@ -322,7 +336,7 @@ extern "C" int zovQMIDMSValidateServiceProgrammingCodeResp(const uint8_t* msg, i
 extern "C" int zovQMIDMSUIMGetICCIDReq(uint8_t* buf, int bufsize) { return req(buf, bufsize, 0x003C); }
 extern "C" int zovQMIDMSUIMGetICCIDResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length,
                                         void* data) {
-    return resp(msg, len, result, 0x003C, all(length), text(length, data));
+    return textResp(msg, len, result, 0x003C, length, data);
 }
 
 // UIMGetCKStatus 0x0040
@@ -370,7 +384,7 @@ extern "C" int zovQMIDMSUIMUnblockCKRespGetFacilityCKRetryStatus(const uint8_t* 
 extern "C" int zovQMIDMSUIMGetIMSIReq(uint8_t* buf, int bufsize) { return req(buf, bufsize, 0x0043); }
 extern "C" int zovQMIDMSUIMGetIMSIResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length,
                                        void* data) {
-    return resp(msg, len, result, 0x0043, all(length), text(length, data));
+    return textResp(msg, len, result, 0x0043, length, data);
 }
 
 // UIMGetState 0x0044
