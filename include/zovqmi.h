@@ -193,7 +193,149 @@ ZOVQMI_API int zovQMICTLGetPwrSaveModeResp(const uint8_t* msg, int len, QmiResul
 
 
 /* ---------------------------------------------------------------- DMS -- */
-/* (DMS declarations) */
+
+#pragma pack(push, 1)
+
+/* DMS: the device capabilities of GetDeviceCap.  The parser fills the first
+ * five fields (the u32 fields little-endian on every host); `list` is set by
+ * the caller before the call: when non-null, `listCount` list bytes are
+ * copied into it (up to 255), when null nothing more is copied.
+ * 15 bytes on 32-bit hosts. */
+typedef struct DMSDeviceCapabilities {
+    uint32_t capability1;
+    uint32_t capability2;
+    uint8_t capabilityByte1;
+    uint8_t capabilityByte2;
+    uint8_t listCount;
+    uint8_t* list;
+} DMSDeviceCapabilities;
+
+#pragma pack(pop)
+
+/* Device identity and state. */
+ZOVQMI_API int zovQMIDMSResetReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIDMSResetResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIDMSSetEventReportReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIDMSSetEventReportReqAddPowerStateReporting(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIDMSSetEventReportReqAddBatteryLevelReportLimits(uint8_t* buf, int bufsize, uint8_t lower,
+                                                                    uint8_t upper);
+ZOVQMI_API int zovQMIDMSSetEventReportReqAddPINStateReporting(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIDMSSetEventReportReqAddOperatingModeReporting(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIDMSSetEventReportReqAddUIMStateReporting(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIDMSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIDMSEventReportIND(const uint8_t* msg, int len);
+ZOVQMI_API int zovQMIDMSEventReportINDGetPowerState(const uint8_t* msg, int len, uint8_t* powerState,
+                                                   uint8_t* batteryLevel);
+ZOVQMI_API int zovQMIDMSEventReportINDGetPIN1Status(const uint8_t* msg, int len, uint8_t* status, uint8_t* retries1,
+                                                   uint8_t* retries2);
+ZOVQMI_API int zovQMIDMSEventReportINDGetPIN2Status(const uint8_t* msg, int len, uint8_t* status, uint8_t* retries1,
+                                                   uint8_t* retries2);
+ZOVQMI_API int zovQMIDMSEventReportINDGetOperatingMode(const uint8_t* msg, int len, uint8_t* mode);
+ZOVQMI_API int zovQMIDMSEventReportINDGetUIMState(const uint8_t* msg, int len, uint8_t* state);
+ZOVQMI_API int zovQMIDMSGetDeviceCapReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIDMSGetDeviceCapResp(const uint8_t* msg, int len, QmiResult* result,
+                                         DMSDeviceCapabilities* caps);
+ZOVQMI_API int zovQMIDMSGetDeviceMfrReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIDMSGetDeviceMfrResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length,
+                                         void* data);
+ZOVQMI_API int zovQMIDMSGetDeviceModelIDReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIDMSGetDeviceModelIDResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length,
+                                             void* data);
+ZOVQMI_API int zovQMIDMSGetDeviceRevIDReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIDMSGetDeviceRevIDResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length,
+                                           void* data);
+ZOVQMI_API int zovQMIDMSGetMSISDNReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIDMSGetMSISDNResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length, void* data);
+ZOVQMI_API int zovQMIDMSGetMSISDNRespGetMobileID(const uint8_t* msg, int len, uint16_t* length, void* data);
+ZOVQMI_API int zovQMIDMSGetDeviceSerialNumbersReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIDMSGetDeviceSerialNumbersResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIDMSGetDeviceSerialNumbersRespGetESN(const uint8_t* msg, int len, uint16_t* length, void* data);
+ZOVQMI_API int zovQMIDMSGetDeviceSerialNumbersRespGetIMEI(const uint8_t* msg, int len, uint16_t* length,
+                                                         void* data);
+ZOVQMI_API int zovQMIDMSGetDeviceSerialNumbersRespGetMEID(const uint8_t* msg, int len, uint16_t* length,
+                                                         void* data);
+ZOVQMI_API int zovQMIDMSGetPowerStateReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIDMSGetPowerStateResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* powerState,
+                                          uint8_t* batteryLevel);
+ZOVQMI_API int zovQMIDMSGetDeviceHardwareRevReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIDMSGetDeviceHardwareRevResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length,
+                                                 void* data);
+ZOVQMI_API int zovQMIDMSGetOperatingModeReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIDMSGetOperatingModeResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* mode);
+ZOVQMI_API int zovQMIDMSSetOperatingModeReq(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIDMSSetOperatingModeResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIDMSGetTimeReq(uint8_t* buf, int bufsize);
+/* timeCount receives the 6 bytes of the time count exactly as they stand on the wire. */
+ZOVQMI_API int zovQMIDMSGetTimeResp(const uint8_t* msg, int len, QmiResult* result, uint8_t timeCount[6],
+                                    uint16_t* timeField2);
+ZOVQMI_API int zovQMIDMSGetTimeRespGetSystemTimeInMS(const uint8_t* msg, int len, uint64_t* ms);
+ZOVQMI_API int zovQMIDMSGetTimeRespGetUserTimeInMS(const uint8_t* msg, int len, uint64_t* ms);
+ZOVQMI_API int zovQMIDMSGetPRLVerReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIDMSGetPRLVerResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* version);
+ZOVQMI_API int zovQMIDMSGetBandCapabilityReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIDMSGetBandCapabilityResp(const uint8_t* msg, int len, QmiResult* result, uint64_t* bands);
+ZOVQMI_API int zovQMIDMSSetTimeReq(uint8_t* buf, int bufsize, uint64_t time);
+ZOVQMI_API int zovQMIDMSSetTimeReqAddTimeReferenceType(uint8_t* buf, int bufsize, uint32_t type);
+ZOVQMI_API int zovQMIDMSSetTimeResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* UIM PIN and personalisation.  PINs and keys are a length byte and that many
+ * bytes; a zero length never reads its pointer. */
+ZOVQMI_API int zovQMIDMSUIMSetPINProtectionReq(uint8_t* buf, int bufsize, uint8_t pinId, uint8_t protection,
+                                               uint8_t pinLength, const uint8_t* pin);
+ZOVQMI_API int zovQMIDMSUIMSetPINProtectionResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIDMSUIMSetPINProtectionRespGetRetriesLeft(const uint8_t* msg, int len, uint8_t* verifyLeft,
+                                                              uint8_t* unblockLeft);
+ZOVQMI_API int zovQMIDMSUIMVerifyPINReq(uint8_t* buf, int bufsize, uint8_t pinId, uint8_t pinLength,
+                                        const uint8_t* pin);
+ZOVQMI_API int zovQMIDMSUIMVerifyPINResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIDMSUIMVerifyPINRespGetRetriesLeft(const uint8_t* msg, int len, uint8_t* verifyLeft,
+                                                       uint8_t* unblockLeft);
+ZOVQMI_API int zovQMIDMSUIMUnblockPINReq(uint8_t* buf, int bufsize, uint8_t pinId, uint8_t keyLength,
+                                         const uint8_t* key, uint8_t newPinLength, const uint8_t* newPin);
+ZOVQMI_API int zovQMIDMSUIMUnblockPINResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIDMSUIMUnblockPINRespGetRetriesLeft(const uint8_t* msg, int len, uint8_t* verifyLeft,
+                                                        uint8_t* unblockLeft);
+ZOVQMI_API int zovQMIDMSUIMChangePINReq(uint8_t* buf, int bufsize, uint8_t pinId, uint8_t oldPinLength,
+                                        const uint8_t* oldPin, uint8_t newPinLength, const uint8_t* newPin);
+ZOVQMI_API int zovQMIDMSUIMChangePINResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIDMSUIMChangePINRespGetRetriesLeft(const uint8_t* msg, int len, uint8_t* verifyLeft,
+                                                       uint8_t* unblockLeft);
+ZOVQMI_API int zovQMIDMSUIMGetPINStatusReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIDMSUIMGetPINStatusResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIDMSUIMGetPINStatusRespGetPIN1Status(const uint8_t* msg, int len, uint8_t* status,
+                                                         uint8_t* verifyLeft, uint8_t* unblockLeft);
+ZOVQMI_API int zovQMIDMSUIMGetPINStatusRespGetPIN2Status(const uint8_t* msg, int len, uint8_t* status,
+                                                         uint8_t* verifyLeft, uint8_t* unblockLeft);
+ZOVQMI_API int zovQMIDMSGetUserLockStateReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIDMSGetUserLockStateResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* state);
+ZOVQMI_API int zovQMIDMSSetUserLockStateReq(uint8_t* buf, int bufsize, uint8_t state, uint32_t lockCode);
+ZOVQMI_API int zovQMIDMSSetUserLockStateResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIDMSSetUserLockCodeReq(uint8_t* buf, int bufsize, uint32_t oldCode, uint32_t newCode);
+ZOVQMI_API int zovQMIDMSSetUserLockCodeResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIDMSValidateServiceProgrammingCodeReq(uint8_t* buf, int bufsize, const uint8_t code[6]);
+ZOVQMI_API int zovQMIDMSValidateServiceProgrammingCodeResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIDMSUIMGetICCIDReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIDMSUIMGetICCIDResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length, void* data);
+ZOVQMI_API int zovQMIDMSUIMGetCKStatusReq(uint8_t* buf, int bufsize, uint8_t facility);
+ZOVQMI_API int zovQMIDMSUIMGetCKStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status,
+                                           uint8_t* verifyLeft, uint8_t* unblockLeft);
+ZOVQMI_API int zovQMIDMSUIMGetCKStatusRespGetOperationBlockingFacility(const uint8_t* msg, int len,
+                                                                       uint8_t* blocking);
+ZOVQMI_API int zovQMIDMSUIMSetCKProtectionReq(uint8_t* buf, int bufsize, uint8_t facility, uint8_t state,
+                                              uint8_t keyLength, const uint8_t* key);
+ZOVQMI_API int zovQMIDMSUIMSetCKProtectionResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIDMSUIMSetCKProtectionRespGetFacilityCKRetryStatus(const uint8_t* msg, int len,
+                                                                       uint8_t* retriesLeft);
+/* Deliberately returns 13 + keyLength although the message it writes is 12 + keyLength bytes. */
+ZOVQMI_API int zovQMIDMSUIMUnblockCKReq(uint8_t* buf, int bufsize, uint8_t facility, uint8_t keyLength,
+                                        const uint8_t* key);
+ZOVQMI_API int zovQMIDMSUIMUnblockCKResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIDMSUIMUnblockCKRespGetFacilityCKRetryStatus(const uint8_t* msg, int len, uint8_t* retriesLeft);
+ZOVQMI_API int zovQMIDMSUIMGetIMSIReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIDMSUIMGetIMSIResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length, void* data);
+ZOVQMI_API int zovQMIDMSUIMGetStateReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIDMSUIMGetStateResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* state);
+
 /* ------------------------------------------------------------ end DMS -- */
 
 
