@@ -1,0 +1,111 @@
+// The simulated modem: a QMI responder with plausible, stateful behaviour.
+//
+// A Modem takes whole frames (QMUX header included) as a driver would hand
+// them to the modem, and returns the frames the modem sends back: the
+// response first, then any indications the request caused.  Each frame is
+// tagged with the connection it goes to, so that one Modem can serve several
+// open descriptors (a transport maps connections to sockets, FUSE handles or
+// a pseudo-terminal).  Requests and responses are read and written with the
+// library's own framing and TLV functions.
+//
+// Every request gets an answer: a request the modem does not know, or a
+// malformed one, is answered with a failure result (result 1 and a QMI
+// error code).  The only exception is a message listed in Options::silent,
+// which lets tests exercise a caller's timeout.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace zovsim {
+
+using Bytes = std::vector<uint8_t>;
+
+// QMI error codes the modem answers with.
+enum QmiError : uint16_t {
+    kErrNone = 0x0000,
+    kErrMalformedMessage = 0x0001,
+    kErrInternal = 0x0003,
+    kErrClientIdsExhausted = 0x0005,
+    kErrInvalidClientId = 0x0007,
+    kErrInvalidHandle = 0x0009,
+    kErrInvalidProfile = 0x000A,
+    kErrInvalidPinId = 0x000B,
+    kErrIncorrectPin = 0x000C,
+    kErrNoNetworkFound = 0x000D,
+    kErrCallFailed = 0x000E,
+    kErrOutOfCall = 0x000F,
+    kErrMissingArgument = 0x0011,
+    kErrNoEffect = 0x001A,
+    kErrNoFreeProfile = 0x001B,
+    kErrInvalidProfileType = 0x001E,
+    kErrInvalidServiceType = 0x001F,
+    kErrPinBlocked = 0x0023,
+    kErrPinPermanentlyBlocked = 0x0024,
+    kErrInvalidQosId = 0x0029,
+    kErrInvalidArgument = 0x0030,
+    kErrInvalidIndex = 0x0031,
+    kErrNoEntry = 0x0032,
+    kErrDeviceStorageFull = 0x0033,
+    kErrDeviceNotReady = 0x0034,
+    kErrInvalidQmiCommand = 0x0047,
+};
+
+// Name of an error code ("IncorrectPin"), or "Unknown".
+const char* errorName(uint16_t code);
+
+struct Options {
+    std::string pin1 = "1234";
+    std::string puk1 = "12345678";
+    // An APN that needs credentials, and the credentials it accepts.
+    std::string secureApn = "secure.example";
+    std::string user = "zov";
+    std::string password = "secret";
+    // Messages (service, message id) that are never answered.
+    std::set<std::pair<uint8_t, uint16_t>> silent;
+};
+
+// One frame to deliver: the connection it goes to and its bytes.
+struct Frame {
+    int conn;
+    Bytes bytes;
+};
+
+struct State;
+
+class Modem {
+public:
+    explicit Modem(Options options = Options());
+    ~Modem();
+    Modem(const Modem&) = delete;
+    Modem& operator=(const Modem&) = delete;
+
+    // Handles one frame written on connection `conn`.  Thread-safe.
+    std::vector<Frame> receive(int conn, const uint8_t* frame, size_t len);
+
+    // A connection went away: its client ids are released.
+    void disconnect(int conn);
+
+    // A short message arrives from the network: it is stored (store 1,
+    // tag "not read") and WMS clients registered for new messages get an
+    // event report.  Returns the indications to deliver.
+    std::vector<Frame> deliverSms(const Bytes& pdu);
+
+    // Client ids currently allocated for a service.
+    size_t clientCount(uint8_t service) const;
+
+private:
+    mutable std::mutex mutex_;
+    std::unique_ptr<State> state_;
+};
+
+// Builds a QMUX frame around a message, as the modem sends it.
+Bytes qmuxFrame(uint8_t service, uint8_t clientId, const Bytes& message);
+
+}  // namespace zovsim

@@ -1,0 +1,91 @@
+// NAS of the simulated modem: signal, serving system and network scan.
+#include "state.h"
+
+namespace zovsim {
+
+namespace {
+
+constexpr uint16_t kMcc = 1, kMnc = 1;
+const char* const kHomeName = "ZovNet";
+
+// Registration flags of a NAS client.
+enum : uint32_t { kRegSignal = 1, kRegServing = 2 };
+
+}  // namespace
+
+Bytes nasServingSystem(const State& st) {
+    uint8_t reg = st.online() ? 1 : 0;  // registered or not
+    W w;
+    w.u8(reg).u8(reg ? 1 : 2).u8(reg ? 1 : 2).u8(2);  // CS and PS attached, 3GPP network
+    if (reg) w.u8(1).u8(8);                            // LTE
+    else w.u8(0);
+    return w;
+}
+
+Reply handleNas(State& st, const Req& r) {
+    Client& me = *st.client(ZOVQMI_SERVICE_NAS, r.client);
+    switch (r.id) {
+    case 0x0000:  // Reset
+        me.reg.erase(ZOVQMI_SERVICE_NAS);
+        return ok();
+    case 0x0001:  // Abort: nothing is ever pending
+        r.need(0x01).u16(0);
+        return fail(kErrNoEffect);
+    case 0x0002: {  // SetEventReport: signal strength reporting
+        Val v;
+        uint32_t& reg = me.reg[ZOVQMI_SERVICE_NAS];
+        if (r.has(0x10, &v)) reg = v.u8(0) ? reg | kRegSignal : reg & ~kRegSignal;
+        return ok();
+    }
+    case 0x0003: {  // IndicationRegister: serving system events
+        Val v;
+        uint32_t& reg = me.reg[ZOVQMI_SERVICE_NAS];
+        if (r.has(0x13, &v)) reg = v.u8(0) ? reg | kRegServing : reg & ~kRegServing;
+        return ok();
+    }
+    case 0x0020: {  // GetSignalStrength: -67 dBm on LTE
+        if (!st.online()) return fail(kErrNoNetworkFound);
+        return ok({{0x01, W().u8(uint8_t(-67)).u8(8)},
+                   {0x10, W().u16(1).u8(uint8_t(-67)).u8(8)},
+                   {0x11, W().u16(1).u8(67).u8(8)},
+                   {0x12, W().u16(1).u8(10).u8(8)},
+                   {0x14, W().u8(6)}});
+    }
+    case 0x0021: {  // PerformNetworkScan: three networks, the home one in use
+        if (!st.online()) return fail(kErrDeviceNotReady);
+        struct Net { uint16_t mcc, mnc; uint8_t status; const char* name; };
+        static const Net nets[] = {{kMcc, kMnc, 0x01 | 0x04 | 0x40, kHomeName},
+                                   {kMcc, 2, 0x02 | 0x08, "Simtel"},
+                                   {kMcc, 3, 0x02 | 0x10, "Forbidden Mobile"}};
+        W w;
+        w.u16(3);
+        for (const Net& n : nets) w.u16(n.mcc).u16(n.mnc).u8(n.status).str8(n.name);
+        return ok({{0x10, w}});
+    }
+    case 0x0022: {  // InitiateNetworkRegister: 1 automatic, 2 manual
+        uint8_t action = r.need(0x01).u8(0);
+        if (action != 1 && action != 2) return fail(kErrInvalidArgument);
+        Val v;
+        if (action == 2 && r.has(0x10, &v) && (v.u16(0) != kMcc || v.u16(2) != kMnc))
+            return fail(kErrNoNetworkFound);
+        return ok();
+    }
+    case 0x0023:  // InitiateAttach
+        return st.online() ? ok() : fail(kErrNoNetworkFound);
+    case 0x0024: {  // GetServingSystem
+        Tlvs t = {{0x01, nasServingSystem(st)}};
+        if (st.online()) {
+            t.push_back({0x10, W().u8(1)});                       // roaming off
+            t.push_back({0x11, W().u8(2).u8(5).u8(11)});          // data capabilities
+            t.push_back({0x12, W().u16(kMcc).u16(kMnc).str8(kHomeName)});
+        }
+        return ok(t);
+    }
+    case 0x0025:  // GetHomeNetwork
+        return ok({{0x01, W().u16(kMcc).u16(kMnc).str8(kHomeName)}});
+    default:
+        return fail(kErrInvalidQmiCommand);
+    }
+}
+
+}  // namespace zovsim
