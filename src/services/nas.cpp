@@ -12,7 +12,7 @@ using namespace zq;
 
 namespace {
 // Field offsets of NASNetworkRecord.
-constexpr size_t kFirstCode = 0, kSecondCode = 2, kThirdCode = 4, kStatus = 6, kDescLength = 7, kDescription = 8;
+constexpr size_t kFirstCode = 0, kSecondCode = 2, kStatus = 6, kDescLength = 7, kDescription = 8;
 constexpr size_t kNetwork = sizeof(NASNetworkRecord);
 
 // A network with a description: u16 first code, u16 second code, u8 n, n

@@ -1,0 +1,333 @@
+// NAS, the network access service.
+#include <cstddef>
+#include <functional>
+
+#include "testutil.h"
+
+using namespace t;
+
+// Record layouts: packed, pointer fields native-sized.
+static_assert(sizeof(NASServingSystem) == 5 + sizeof(void*), "serving system: 5 bytes and a pointer");
+static_assert(offsetof(NASServingSystem, listCount) == 4, "list count after the four state bytes");
+static_assert(offsetof(NASServingSystem, list) == 5, "list pointer at byte 5");
+static_assert(sizeof(NASNetworkRecord) == 8 + sizeof(void*), "network record: 8 bytes and a pointer");
+static_assert(offsetof(NASNetworkRecord, firstCode) == 0, "first code");
+static_assert(offsetof(NASNetworkRecord, secondCode) == 2, "second code");
+static_assert(offsetof(NASNetworkRecord, thirdCode) == 4, "third code");
+static_assert(offsetof(NASNetworkRecord, status) == 6, "status");
+static_assert(offsetof(NASNetworkRecord, descriptionLength) == 7, "description length");
+static_assert(offsetof(NASNetworkRecord, description) == 8, "description pointer");
+static_assert(sizeof(NASRFBandRecord) == 5, "RF band entries are 5 bytes");
+static_assert(offsetof(NASRFBandRecord, second) == 1 && offsetof(NASRFBandRecord, third) == 3, "RF band fields");
+static_assert(sizeof(NASManualNetworkRegister) == 5, "manual registration is 5 bytes");
+static_assert(offsetof(NASManualNetworkRegister, secondCode) == 2 && offsetof(NASManualNetworkRegister, third) == 4,
+              "manual registration fields");
+
+namespace {
+
+// Stores v little-endian into a record field, whatever the host's order.
+void wr16(void* p, uint16_t v) {
+    uint8_t* b = static_cast<uint8_t*>(p);
+    b[0] = uint8_t(v);
+    b[1] = uint8_t(v >> 8);
+}
+
+// The bytes of a caller record or array, to compare whole outputs.
+template <class T>
+Bytes bytesOf(const T* p, size_t n = 1) {
+    const uint8_t* b = reinterpret_cast<const uint8_t*>(p);
+    return Bytes(b, b + sizeof(T) * n);
+}
+
+// A network record filled with 0xEE (pointer included: callers set it).
+NASNetworkRecord untouchedNetwork(uint8_t* description = nullptr) {
+    NASNetworkRecord r;
+    std::memset(&r, 0xEE, sizeof r);
+    r.description = description;
+    return r;
+}
+
+// ------------------------------------------------------------- requests --
+
+struct FixedRequest {
+    const char* name;
+    std::function<int(uint8_t*, int)> build;
+    uint16_t id;
+    Bytes area;  // the TLV area written after the header
+};
+
+TEST(NasRequests, EveryFixedRequestWritesItsBytesAndRefusesOneByteLess) {
+    const uint8_t code[6] = {0x30, 0x31, 0x32, 0x33, 0x34, 0x35};
+    const FixedRequest requests[] = {
+        {"Reset", zovQMINASResetReq, 0x0000, {}},
+        {"Abort", [](uint8_t* b, int n) { return zovQMINASAbortReq(b, n, 0x0A0B); }, 0x0001, tlv(0x01, le16(0x0A0B))},
+        {"SetEventReport", zovQMINASSetEventReportReq, 0x0002, {}},
+        {"IndicationRegister", zovQMINASIndicationRegisterReq, 0x0003, {}},
+        {"GetSignalStrength", zovQMINASGetSignalStrengthReq, 0x0020, {}},
+        {"PerformNetworkScan", zovQMINASPerformNetworkScanReq, 0x0021, {}},
+        {"InitiateNetworkRegister", [](uint8_t* b, int n) { return zovQMINASInitiateNetworkRegisterReq(b, n, 0x02); },
+         0x0022, tlv(0x01, {0x02})},
+        {"InitiateAttach", zovQMINASInitiateAttachReq, 0x0023, {}},
+        {"GetServingSystem", zovQMINASGetServingSystemReq, 0x0024, {}},
+        {"GetHomeNetwork", zovQMINASGetHomeNetworkReq, 0x0025, {}},
+        {"GetPreferredNetworks", zovQMINASGetPreferredNetworksReq, 0x0026, {}},
+        {"SetPreferredNetworks", zovQMINASSetPreferredNetworksReq, 0x0027, {}},
+        {"GetForbiddenNetworks", zovQMINASGetForbiddenNetworksReq, 0x0028, {}},
+        {"SetForbiddenNetworks", zovQMINASSetForbiddenNetworksReq, 0x0029, {}},
+        {"GetACCOLC", zovQMINASGetACCOLCReq, 0x002C, {}},
+        {"SetACCOLC", [&](uint8_t* b, int n) { return zovQMINASSetACCOLCReq(b, n, code, 0x07); }, 0x002D,
+         tlv(0x01, {0x30, 0x31, 0x32, 0x33, 0x34, 0x35, 0x07})},
+        {"GetDeviceConfig", zovQMINASGetDeviceConfigReq, 0x002F, {}},
+        {"SetDeviceConfig", zovQMINASSetDeviceConfigReq, 0x0030, {}},
+        {"GetRFBandInfo", zovQMINASGetRFBandInfoReq, 0x0031, {}},
+        {"GetANAAAStatus", zovQMINASGetANAAAStatusReq, 0x0032, {}},
+        {"SetSystemSelectionPreference", zovQMINASSetSystemSelectionPreferenceReq, 0x0033, {}},
+        {"GetSystemSelectionPreference", zovQMINASGetSystemSelectionPreferenceReq, 0x0034, {}},
+    };
+    for (const FixedRequest& r : requests) {
+        SCOPED_TRACE(r.name);
+        int size = 7 + int(r.area.size());
+        Bytes buf = buffer(32);
+        EXPECT_EQ(r.build(buf.data(), size - 1), -1);
+        EXPECT_EQ(buf, buffer(32));
+        EXPECT_EQ(r.build(nullptr, size), -1);
+        ASSERT_EQ(r.build(buf.data(), size), size);
+        EXPECT_EQ(head(buf, size_t(size) + 1), cat({reqHeader(r.id, uint16_t(r.area.size())), r.area, {0xEE}}));
+    }
+}
+
+TEST(NasRequests, AbortNeedsTwelveBytesAndWritesTheTransactionIdLowByteFirst) {
+    Bytes buf = buffer(16);
+    EXPECT_EQ(zovQMINASAbortReq(buf.data(), 11, 0x1234), -1);
+    EXPECT_EQ(buf, buffer(16));
+    ASSERT_EQ(zovQMINASAbortReq(buf.data(), 12, 0x1234), 12);
+    EXPECT_EQ(head(buf, 13), cat({reqHeader(0x0001, 5), {0x01, 0x02, 0x00, 0x34, 0x12, 0xEE}}));
+}
+
+TEST(NasRequests, SetACCOLCWithNullCodeIsRefused) {
+    Bytes buf = buffer(32);
+    EXPECT_EQ(zovQMINASSetACCOLCReq(buf.data(), 32, nullptr, 1), -1);
+    EXPECT_EQ(buf, buffer(32));
+    const uint8_t code[6] = {};
+    EXPECT_EQ(zovQMINASSetACCOLCReq(buf.data(), 16, code, 1), -1);
+    EXPECT_EQ(zovQMINASSetACCOLCReq(buf.data(), 17, code, 1), 17);
+}
+
+struct OptionalItem {
+    const char* name;
+    int (*start)(uint8_t*, int);
+    std::function<int(uint8_t*, int)> add;
+    uint16_t id;
+    Bytes item;  // the whole item appended
+};
+
+TEST(NasRequests, EveryOptionalItemAppendsItsBytes) {
+    const uint8_t thresholds[3] = {0xA0, 0xB0, 0xC0};
+    const uint8_t spc[6] = {'1', '2', '3', '4', '5', '6'};
+    NASManualNetworkRegister manual;
+    wr16(&manual.firstCode, 0x0136);
+    wr16(&manual.secondCode, 0x0203);
+    manual.third = 0x05;
+    const OptionalItem items[] = {
+        {"SignalStrengthIndicator", zovQMINASSetEventReportReq,
+         [&](uint8_t* b, int n) { return zovQMINASSetEventReportReqAddSignalStrengthIndicator(b, n, 1, 3, thresholds); },
+         0x0002, tlv(0x10, {0x01, 0x03, 0xA0, 0xB0, 0xC0})},
+        {"RFBandInformation", zovQMINASSetEventReportReq,
+         [](uint8_t* b, int n) { return zovQMINASSetEventReportReqAddRFBandInformation(b, n, 1); }, 0x0002,
+         tlv(0x11, {0x01})},
+        {"RegistrationRejectReasons", zovQMINASSetEventReportReq,
+         [](uint8_t* b, int n) { return zovQMINASSetEventReportReqAddRegistrationRejectReasons(b, n, 1); }, 0x0002,
+         tlv(0x12, {0x01})},
+        {"RSSIIndicator", zovQMINASSetEventReportReq,
+         [](uint8_t* b, int n) { return zovQMINASSetEventReportReqAddRSSIIndicator(b, n, 1, 5); }, 0x0002,
+         tlv(0x13, {0x01, 0x05})},
+        {"ECIOIndicator", zovQMINASSetEventReportReq,
+         [](uint8_t* b, int n) { return zovQMINASSetEventReportReqAddECIOIndicator(b, n, 1, 6); }, 0x0002,
+         tlv(0x14, {0x01, 0x06})},
+        {"IOIndicator", zovQMINASSetEventReportReq,
+         [](uint8_t* b, int n) { return zovQMINASSetEventReportReqAddIOIndicator(b, n, 1, 7); }, 0x0002,
+         tlv(0x15, {0x01, 0x07})},
+        {"SINRIndicator", zovQMINASSetEventReportReq,
+         [](uint8_t* b, int n) { return zovQMINASSetEventReportReqAddSINRIndicator(b, n, 1, 8); }, 0x0002,
+         tlv(0x16, {0x01, 0x08})},
+        {"ErrorRateIndicator", zovQMINASSetEventReportReq,
+         [](uint8_t* b, int n) { return zovQMINASSetEventReportReqAddErrorRateIndicator(b, n, 1); }, 0x0002,
+         tlv(0x17, {0x01})},
+        {"SystemSelectionPreferenceEvents", zovQMINASIndicationRegisterReq,
+         [](uint8_t* b, int n) { return zovQMINASIndicationRegisterReqAddSystemSelectionPreference(b, n, 1); }, 0x0003,
+         tlv(0x10, {0x01})},
+        {"DDTMEvents", zovQMINASIndicationRegisterReq,
+         [](uint8_t* b, int n) { return zovQMINASIndicationRegisterReqAddDDTMEvents(b, n, 1); }, 0x0003,
+         tlv(0x12, {0x01})},
+        {"ServingSystemEvents", zovQMINASIndicationRegisterReq,
+         [](uint8_t* b, int n) { return zovQMINASIndicationRegisterReqAddServingSystemEvents(b, n, 0); }, 0x0003,
+         tlv(0x13, {0x00})},
+        {"RequestMask", zovQMINASGetSignalStrengthReq,
+         [](uint8_t* b, int n) { return zovQMINASGetSignalStrengthReqAddRequestMask(b, n, 0x0102); }, 0x0020,
+         tlv(0x10, le16(0x0102))},
+        {"ManualNetworkRegisterInformation", nullptr,
+         [&](uint8_t* b, int n) {
+             return zovQMINASInitiateNetworkRegisterReqAddManualNetworkRegisterInformation(b, n, &manual);
+         },
+         0x0022, tlv(0x10, {0x36, 0x01, 0x03, 0x02, 0x05})},
+        {"PSAttachAction", zovQMINASInitiateAttachReq,
+         [](uint8_t* b, int n) { return zovQMINASInitiateAttachReqAddPSAttachAction(b, n, 2); }, 0x0023,
+         tlv(0x10, {0x02})},
+        {"ServiceProgrammingCode", zovQMINASSetDeviceConfigReq,
+         [&](uint8_t* b, int n) { return zovQMINASSetDeviceConfigReqAddServiceProgrammingCode(b, n, spc); }, 0x0030,
+         tlv(0x10, str("123456"))},
+        {"ForceHDRRevision", zovQMINASSetDeviceConfigReq,
+         [](uint8_t* b, int n) { return zovQMINASSetDeviceConfigReqAddForceHDRRevision(b, n, 1); }, 0x0030,
+         tlv(0x14, {0x01})},
+        {"HDRSCPCustomConfig", zovQMINASSetDeviceConfigReq,
+         [](uint8_t* b, int n) {
+             return zovQMINASSetDeviceConfigReqAddHDRSCPCustomConfig(b, n, 1, 0x11223344, 0x55667788, 0x99AABBCC);
+         },
+         0x0030, tlv(0x15, cat({{0x01}, le32(0x11223344), le32(0x55667788), le32(0x99AABBCC)}))},
+        {"RoamPreference", zovQMINASSetDeviceConfigReq,
+         [](uint8_t* b, int n) { return zovQMINASSetDeviceConfigReqAddRoamPreference(b, n, 3); }, 0x0030,
+         tlv(0x16, {0x03})},
+        {"EmergencyMode", zovQMINASSetSystemSelectionPreferenceReq,
+         [](uint8_t* b, int n) { return zovQMINASSetSystemSelectionPreferenceReqAddEmergencyMode(b, n, 1); }, 0x0033,
+         tlv(0x10, {0x01})},
+        {"ModePreference", zovQMINASSetSystemSelectionPreferenceReq,
+         [](uint8_t* b, int n) { return zovQMINASSetSystemSelectionPreferenceReqAddModePreference(b, n, 0x0708); },
+         0x0033, tlv(0x11, le16(0x0708))},
+        {"BandPreference", zovQMINASSetSystemSelectionPreferenceReq,
+         [](uint8_t* b, int n) {
+             return zovQMINASSetSystemSelectionPreferenceReqAddBandPreference(b, n, 0x0102030405060708ull);
+         },
+         0x0033, tlv(0x12, {0x08, 0x07, 0x06, 0x05, 0x04, 0x03, 0x02, 0x01})},
+        {"CDMAPRLPreference", zovQMINASSetSystemSelectionPreferenceReq,
+         [](uint8_t* b, int n) { return zovQMINASSetSystemSelectionPreferenceReqAddCDMAPRLPreference(b, n, 0x0A0B); },
+         0x0033, tlv(0x13, le16(0x0A0B))},
+        {"RoamingPreference", zovQMINASSetSystemSelectionPreferenceReq,
+         [](uint8_t* b, int n) { return zovQMINASSetSystemSelectionPreferenceReqAddRoamingPreference(b, n, 0x00FF); },
+         0x0033, tlv(0x14, le16(0x00FF))},
+    };
+    for (const OptionalItem& it : items) {
+        SCOPED_TRACE(it.name);
+        Bytes buf = buffer(64);
+        if (it.start) ASSERT_EQ(it.start(buf.data(), 64), 7);
+        else ASSERT_EQ(zovQMINASInitiateNetworkRegisterReq(buf.data(), 64, 1), 11);
+        Bytes front = it.start ? reqHeader(it.id, 0) : cat({reqHeader(it.id, 4), tlv(0x01, {0x01})});
+        int total = int(front.size() + it.item.size());
+        Bytes before = buf;
+        EXPECT_EQ(it.add(buf.data(), total - 1), -2);
+        EXPECT_EQ(buf, before);
+        EXPECT_EQ(it.add(nullptr, 64), -1);
+        ASSERT_EQ(it.add(buf.data(), total), total);
+        Bytes header = it.start ? reqHeader(it.id, uint16_t(it.item.size()))
+                                : cat({reqHeader(it.id, uint16_t(4 + it.item.size())), tlv(0x01, {0x01})});
+        EXPECT_EQ(head(buf, size_t(total) + 1), cat({header, it.item, {0xEE}}));
+    }
+}
+
+TEST(NasRequests, SignalStrengthIndicatorWithCountZeroIgnoresThePointerAndCountThreeNeedsIt) {
+    Bytes buf = buffer(32);
+    ASSERT_EQ(zovQMINASSetEventReportReq(buf.data(), 32), 7);
+    EXPECT_EQ(zovQMINASSetEventReportReqAddSignalStrengthIndicator(buf.data(), 32, 1, 3, nullptr), -1);
+    EXPECT_EQ(head(buf, 8), cat({reqHeader(0x0002, 0), {0xEE}}));
+    EXPECT_EQ(zovQMINASSetEventReportReqAddSignalStrengthIndicator(buf.data(), 32, 1, 0, nullptr), 12);
+    EXPECT_EQ(head(buf, 13), cat({reqHeader(0x0002, 5), tlv(0x10, {0x01, 0x00}), {0xEE}}));
+}
+
+TEST(NasRequests, ManualRegistrationAndServiceProgrammingCodeRefuseNullRecords) {
+    Bytes buf = buffer(32);
+    ASSERT_EQ(zovQMINASInitiateNetworkRegisterReq(buf.data(), 32, 1), 11);
+    EXPECT_EQ(zovQMINASInitiateNetworkRegisterReqAddManualNetworkRegisterInformation(buf.data(), 32, nullptr), -1);
+    EXPECT_EQ(head(buf, 12), cat({reqHeader(0x0022, 4), tlv(0x01, {0x01}), {0xEE}}));
+    ASSERT_EQ(zovQMINASSetDeviceConfigReq(buf.data(), 32), 7);
+    EXPECT_EQ(zovQMINASSetDeviceConfigReqAddServiceProgrammingCode(buf.data(), 32, nullptr), -1);
+    EXPECT_EQ(head(buf, 7), reqHeader(0x0030, 0));
+}
+
+// Network lists read each record's leading codes through its own stride.
+std::vector<NASNetworkRecord> networks(size_t n) {
+    std::vector<NASNetworkRecord> v(n, untouchedNetwork());
+    for (size_t i = 0; i < n; ++i) {
+        wr16(&v[i].firstCode, uint16_t(0x0100 + i));
+        wr16(&v[i].secondCode, uint16_t(0x0200 + i));
+        wr16(&v[i].thirdCode, uint16_t(0x0300 + i));
+    }
+    return v;
+}
+
+TEST(NasRequests, PreferredNetworksWithCountZeroAndNullArrayAppendsTheCountOnly) {
+    Bytes buf = buffer(32);
+    ASSERT_EQ(zovQMINASSetPreferredNetworksReq(buf.data(), 32), 7);
+    EXPECT_EQ(zovQMINASSetPreferredNetworksReqAdd3GPPPreferredNetworks(buf.data(), 32, 0, nullptr), 12);
+    EXPECT_EQ(head(buf, 13), cat({reqHeader(0x0027, 5), tlv(0x10, {0x00, 0x00}), {0xEE}}));
+    EXPECT_EQ(zovQMINASSetPreferredNetworksReqAdd3GPPPreferredNetworks(buf.data(), 32, 1, nullptr), -1);
+    EXPECT_EQ(zovQMINASSetPreferredNetworksReqAdd3GPPPreferredNetworks(nullptr, 32, 0, nullptr), -1);
+}
+
+TEST(NasRequests, PreferredNetworksWritesThreeCodesPerRecord) {
+    std::vector<NASNetworkRecord> list = networks(2);
+    wr16(&list[0].firstCode, 0x0136);
+    wr16(&list[0].secondCode, 0x0001);
+    Bytes buf = buffer(64);
+    ASSERT_EQ(zovQMINASSetPreferredNetworksReq(buf.data(), 64), 7);
+    EXPECT_EQ(zovQMINASSetPreferredNetworksReqAdd3GPPPreferredNetworks(buf.data(), 23, 2, list.data()), -2);
+    EXPECT_EQ(zovQMINASSetPreferredNetworksReqAdd3GPPPreferredNetworks(buf.data(), 24, 2, list.data()), 24);
+    Bytes value = cat({{0x02, 0x00, 0x36, 0x01, 0x01, 0x00}, le16(0x0300), le16(0x0101), le16(0x0201), le16(0x0301)});
+    EXPECT_EQ(head(buf, 25), cat({reqHeader(0x0027, 17), tlv(0x10, value), {0xEE}}));
+}
+
+TEST(NasRequests, ForbiddenNetworksWritesTwoCodesPerRecord) {
+    std::vector<NASNetworkRecord> list = networks(2);
+    Bytes buf = buffer(64);
+    ASSERT_EQ(zovQMINASSetForbiddenNetworksReq(buf.data(), 64), 7);
+    EXPECT_EQ(zovQMINASSetForbiddenNetworksReqAdd3GPPForbiddenNetworks(buf.data(), 64, 2, list.data()), 20);
+    Bytes value = cat({le16(2), le16(0x0100), le16(0x0200), le16(0x0101), le16(0x0201)});
+    EXPECT_EQ(head(buf, 21), cat({reqHeader(0x0029, 13), tlv(0x10, value), {0xEE}}));
+    EXPECT_EQ(zovQMINASSetForbiddenNetworksReqAdd3GPPForbiddenNetworks(buf.data(), 64, 3, nullptr), -1);
+    EXPECT_EQ(zovQMINASSetForbiddenNetworksReqAdd3GPPForbiddenNetworks(nullptr, 64, 0, nullptr), -1);
+}
+
+TEST(NasRequests, NetworkListsRefuseCountsBeyondOneItemValue) {
+    // 170 preferred (2 + 1020 bytes) and 255 forbidden (2 + 1020) fit; one more does not.
+    std::vector<NASNetworkRecord> list = networks(256);
+    Bytes buf = buffer(2048);
+    ASSERT_EQ(zovQMINASSetPreferredNetworksReq(buf.data(), 2048), 7);
+    EXPECT_EQ(zovQMINASSetPreferredNetworksReqAdd3GPPPreferredNetworks(buf.data(), 2048, 171, list.data()),
+              ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(zovQMINASSetPreferredNetworksReqAdd3GPPPreferredNetworks(buf.data(), 2048, 0x80000000u, list.data()),
+              ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(head(buf, 8), cat({reqHeader(0x0027, 0), {0xEE}}));
+    EXPECT_EQ(zovQMINASSetPreferredNetworksReqAdd3GPPPreferredNetworks(buf.data(), 2048, 170, list.data()),
+              7 + 3 + 1022);
+    ASSERT_EQ(zovQMINASSetForbiddenNetworksReq(buf.data(), 2048), 7);
+    EXPECT_EQ(zovQMINASSetForbiddenNetworksReqAdd3GPPForbiddenNetworks(buf.data(), 2048, 256, list.data()),
+              ZOVQMI_ERR_MALFORMED);
+    // 0x40000001 forbidden networks would wrap a 32-bit size to 6 bytes.
+    EXPECT_EQ(zovQMINASSetForbiddenNetworksReqAdd3GPPForbiddenNetworks(buf.data(), 2048, 0x40000001u, list.data()),
+              ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(zovQMINASSetForbiddenNetworksReqAdd3GPPForbiddenNetworks(buf.data(), 2048, 255, list.data()),
+              7 + 3 + 1022);
+}
+
+TEST(NasRequests, SetDDTMPreferenceIsWrittenUnderTheSystemSelectionId) {
+    const uint16_t list[2] = {0x0102, 0x0304};
+    Bytes buf = buffer(32);
+    EXPECT_EQ(zovQMINASSetDDTMPreferenceReq(buf.data(), 18, 1, 0x0A0B, 2, 2, list), -1);
+    EXPECT_EQ(buf, buffer(32));
+    ASSERT_EQ(zovQMINASSetDDTMPreferenceReq(buf.data(), 19, 1, 0x0A0B, 2, 2, list), 19);
+    EXPECT_EQ(buf[3], 0x33);
+    EXPECT_EQ(buf[4], 0x00);
+    EXPECT_EQ(head(buf, 20),
+              cat({reqHeader(0x0033, 12), tlv(0x01, cat({{0x01}, le16(0x0A0B), {0x02, 0x02}, le16(0x0102),
+                                                         le16(0x0304)})),
+                   {0xEE}}));
+}
+
+TEST(NasRequests, SetDDTMPreferenceChecksTheListBeforeTheBuffer) {
+    Bytes buf = buffer(32);
+    EXPECT_EQ(zovQMINASSetDDTMPreferenceReq(buf.data(), 32, 1, 2, 3, 1, nullptr), -1);
+    EXPECT_EQ(zovQMINASSetDDTMPreferenceReq(nullptr, 32, 1, 2, 3, 0, nullptr), -1);
+    EXPECT_EQ(buf, buffer(32));
+    ASSERT_EQ(zovQMINASSetDDTMPreferenceReq(buf.data(), 15, 1, 2, 3, 0, nullptr), 15);
+    EXPECT_EQ(head(buf, 16), cat({reqHeader(0x0033, 8), tlv(0x01, {0x01, 0x02, 0x00, 0x03, 0x00}), {0xEE}}));
+}
+
+}  // namespace
