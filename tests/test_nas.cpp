@@ -330,4 +330,210 @@ TEST(NasRequests, SetDDTMPreferenceChecksTheListBeforeTheBuffer) {
     EXPECT_EQ(head(buf, 16), cat({reqHeader(0x0033, 8), tlv(0x01, {0x01, 0x02, 0x00, 0x03, 0x00}), {0xEE}}));
 }
 
+// ------------------------------------------------------------ responses --
+
+struct ResultOnly {
+    const char* name;
+    int (*parse)(const uint8_t*, int, QmiResult*);
+    uint16_t id;
+};
+
+TEST(NasResponses, EveryResultOnlyResponseStoresTheResultAndReturnsTheAreaLength) {
+    const ResultOnly parsers[] = {
+        {"Reset", zovQMINASResetResp, 0x0000},
+        {"Abort", zovQMINASAbortResp, 0x0001},
+        {"SetEventReport", zovQMINASSetEventReportResp, 0x0002},
+        {"IndicationRegister", zovQMINASIndicationRegisterResp, 0x0003},
+        {"PerformNetworkScan", zovQMINASPerformNetworkScanResp, 0x0021},
+        {"InitiateNetworkRegister", zovQMINASInitiateNetworkRegisterResp, 0x0022},
+        {"InitiateAttach", zovQMINASInitiateAttachResp, 0x0023},
+        {"GetPreferredNetworks", zovQMINASGetPreferredNetworksResp, 0x0026},
+        {"SetPreferredNetworks", zovQMINASSetPreferredNetworksResp, 0x0027},
+        {"GetForbiddenNetworks", zovQMINASGetForbiddenNetworksResp, 0x0028},
+        {"SetForbiddenNetworks", zovQMINASSetForbiddenNetworksResp, 0x0029},
+        {"SetACCOLC", zovQMINASSetACCOLCResp, 0x002D},
+        {"GetDeviceConfig", zovQMINASGetDeviceConfigResp, 0x002F},
+        {"SetDeviceConfig", zovQMINASSetDeviceConfigResp, 0x0030},
+        {"SetSystemSelectionPreference", zovQMINASSetSystemSelectionPreferenceResp, 0x0033},
+        {"GetSystemSelectionPreference", zovQMINASGetSystemSelectionPreferenceResp, 0x0034},
+        {"SetDDTMPreference", zovQMINASSetDDTMPreferenceResp, 0x0037},
+    };
+    for (const ResultOnly& p : parsers) {
+        SCOPED_TRACE(p.name);
+        // A failure result still yields the TLV-area length; no item 0x01 is wanted.
+        Bytes msg = svcMessage(p.id, {result(1, 0x0E), tlv(0x10, {0x01})});
+        QmiResult r = untouchedResult();
+        EXPECT_EQ(p.parse(msg.data(), int(msg.size()), &r), 11);
+        EXPECT_EQ(res(r), (Res{1, 0x0E}));
+        EXPECT_EQ(p.parse(nullptr, int(msg.size()), &r), -1);
+        EXPECT_EQ(p.parse(msg.data(), int(msg.size()), nullptr), -1);
+        Bytes other = svcMessage(uint16_t(p.id + 0x40), {result()});
+        r = untouchedResult();
+        EXPECT_EQ(p.parse(other.data(), int(other.size()), &r), -2);
+        Bytes noResult = svcMessage(p.id, {tlv(0x01, {0x01})});
+        EXPECT_EQ(p.parse(noResult.data(), int(noResult.size()), &r), -3);
+        EXPECT_EQ(res(r), res(untouchedResult()));
+    }
+}
+
+TEST(NasResponses, SetDDTMPreferenceResponseIsLookedForUnderItsOwnId) {
+    // The request goes out as 0x0033, but an answer under 0x0033 is not taken.
+    Bytes msg = svcMessage(0x0033, {result()});
+    QmiResult r;
+    EXPECT_EQ(zovQMINASSetDDTMPreferenceResp(msg.data(), int(msg.size()), &r), -2);
+}
+
+TEST(NasIndications, EventReportAndSystemSelectionPreferenceConfirmOnlyTheId) {
+    Bytes ev = svcMessage(0x0002, {tlv(0x16, {0x05})}, 0, 0x04);
+    EXPECT_EQ(zovQMINASEventReportIND(ev.data(), int(ev.size())), 4);
+    EXPECT_EQ(zovQMINASEventReportIND(nullptr, int(ev.size())), -1);
+    EXPECT_EQ(zovQMINASSystemSelectionPreferenceIND(ev.data(), int(ev.size())), -2);
+    Bytes ss = svcMessage(0x0034, {}, 0, 0x04);
+    EXPECT_EQ(zovQMINASSystemSelectionPreferenceIND(ss.data(), int(ss.size())), -2);  // head ends at the buffer end
+    ss = svcMessage(0x0034, {tlv(0x11, le16(0x0203))}, 0, 0x04);
+    EXPECT_EQ(zovQMINASSystemSelectionPreferenceIND(ss.data(), int(ss.size())), 5);
+    EXPECT_EQ(zovQMINASSystemSelectionPreferenceIND(nullptr, 0), -1);
+    EXPECT_EQ(zovQMINASEventReportIND(ss.data(), int(ss.size())), -2);
+    // Its items are read with the GetSystemSelectionPreference getters.
+    uint16_t mode = 0;
+    EXPECT_EQ(zovQMINASGetSystemSelectionPreferenceRespGetModePreference(ss.data(), int(ss.size()), &mode), 2);
+    EXPECT_EQ(mode, 0x0203);
+}
+
+// Native bytes of a value, to compare outputs of any width.
+template <class T>
+Bytes nat(T v) {
+    Bytes b(sizeof v);
+    std::memcpy(b.data(), &v, sizeof v);
+    return b;
+}
+
+// A getter called with its outputs, or with its first output null; the
+// outputs come back as native bytes in argument order.
+using GetCall = std::function<int(const uint8_t*, int, bool, Bytes&)>;
+
+struct Getter {
+    const char* name;
+    uint16_t id;
+    uint8_t type;
+    Bytes value;
+    GetCall call;
+    Bytes expected;
+};
+
+template <class A>
+GetCall one(int (*f)(const uint8_t*, int, A*)) {
+    return [f](const uint8_t* m, int n, bool null, Bytes& out) {
+        A a{};
+        int r = f(m, n, null ? nullptr : &a);
+        out = nat(a);
+        return r;
+    };
+}
+template <class A, class B>
+GetCall two(int (*f)(const uint8_t*, int, A*, B*)) {
+    return [f](const uint8_t* m, int n, bool null, Bytes& out) {
+        A a{};
+        B b{};
+        int r = f(m, n, null ? nullptr : &a, &b);
+        out = cat({nat(a), nat(b)});
+        return r;
+    };
+}
+template <class A, class B, class C>
+GetCall three(int (*f)(const uint8_t*, int, A*, B*, C*)) {
+    return [f](const uint8_t* m, int n, bool null, Bytes& out) {
+        A a{};
+        B b{};
+        C c{};
+        int r = f(m, n, null ? nullptr : &a, &b, &c);
+        out = cat({nat(a), nat(b), nat(c)});
+        return r;
+    };
+}
+GetCall hdrConfig() {
+    return [](const uint8_t* m, int n, bool null, Bytes& out) {
+        uint8_t a = 0;
+        uint32_t b = 0, c = 0, d = 0;
+        int r = zovQMINASGetDeviceConfigRespGetHDRSCPCustomConfig(m, n, null ? nullptr : &a, &b, &c, &d);
+        out = cat({nat(a), nat(b), nat(c), nat(d)});
+        return r;
+    };
+}
+
+TEST(NasGetters, EveryFixedGetterDecodesItsItem) {
+    const Getter getters[] = {
+        {"EventReport SignalStrength", 0x0002, 0x10, {0xA5, 0x04}, two(zovQMINASEventReportINDGetSignalStrength),
+         {0xA5, 0x04}},
+        {"EventReport RegistrationRejectReason", 0x0002, 0x12, cat({{0x01}, le16(0x0203)}),
+         two(zovQMINASEventReportINDGetRegistrationRejectReason), cat({{0x01}, nat(uint16_t(0x0203))})},
+        {"EventReport RSSI", 0x0002, 0x13, {0x50, 0x05}, two(zovQMINASEventReportINDGetRSSI), {0x50, 0x05}},
+        {"EventReport ECIO", 0x0002, 0x14, {0x10, 0x05}, two(zovQMINASEventReportINDGetECIO), {0x10, 0x05}},
+        {"EventReport IO", 0x0002, 0x15, le32(0x01020304), one(zovQMINASEventReportINDGetIO), nat(uint32_t(0x01020304))},
+        {"EventReport SINR", 0x0002, 0x16, {0x07}, one(zovQMINASEventReportINDGetSINR), {0x07}},
+        {"EventReport ErrorRate", 0x0002, 0x17, cat({le16(0x0A0B), {0x08}}), two(zovQMINASEventReportINDGetErrorRate),
+         cat({nat(uint16_t(0x0A0B)), {0x08}})},
+        {"SignalStrength IO", 0x0020, 0x13, le32(0xA1B2C3D4), one(zovQMINASGetSignalStrengthRespGetIO),
+         nat(uint32_t(0xA1B2C3D4))},
+        {"SignalStrength SINR", 0x0020, 0x14, {0x03}, one(zovQMINASGetSignalStrengthRespGetSINR), {0x03}},
+        {"RoamingIndicatorValue", 0x0024, 0x10, {0x01}, one(zovQMINASGetServingSystemRespGetRoamingIndicatorValue),
+         {0x01}},
+        {"CDMASystemID", 0x0024, 0x13, cat({le16(0x1122), le16(0x3344)}),
+         two(zovQMINASGetServingSystemRespGetCDMASystemID), cat({nat(uint16_t(0x1122)), nat(uint16_t(0x3344))})},
+        {"CDMABaseStationInformation", 0x0024, 0x14, cat({le16(0x0102), le32(0x03040506), le32(0x0708090A)}),
+         three(zovQMINASGetServingSystemRespGetCDMABaseStationInformation),
+         cat({nat(uint16_t(0x0102)), nat(uint32_t(0x03040506)), nat(uint32_t(0x0708090A))})},
+        {"DefaultRoamingIndicator", 0x0024, 0x16, {0x02}, one(zovQMINASGetServingSystemRespGetDefaultRoamingIndicator),
+         {0x02}},
+        {"3GPP2TimeZone", 0x0024, 0x17, {0x0F, 0x10, 0x01}, three(zovQMINASGetServingSystemRespGet3GPP2TimeZone),
+         {0x0F, 0x10, 0x01}},
+        {"CDMAPRevInUse", 0x0024, 0x18, {0x06}, one(zovQMINASGetServingSystemRespGetCDMAPRevInUse), {0x06}},
+        {"HomeSystemID", 0x0025, 0x10, cat({le16(0x5566), le16(0x7788)}),
+         two(zovQMINASGetHomeNetworkRespGetHomeSystemID), cat({nat(uint16_t(0x5566)), nat(uint16_t(0x7788))})},
+        {"SlotCycleIndex", 0x002F, 0x11, {0x02}, one(zovQMINASGetDeviceConfigRespGetSlotCycleIndex), {0x02}},
+        {"StationClassMark", 0x002F, 0x12, {0x2A}, one(zovQMINASGetDeviceConfigRespGetStationClassMark), {0x2A}},
+        {"RegistrationParameters", 0x002F, 0x13, {0x01, 0x02, 0x03},
+         three(zovQMINASGetDeviceConfigRespGetRegistrationParameters), {0x01, 0x02, 0x03}},
+        {"ForceHDRRevision", 0x002F, 0x14, {0x01}, one(zovQMINASGetDeviceConfigRespGetForceHDRRevision), {0x01}},
+        {"HDRSCPCustomConfig", 0x002F, 0x15, cat({{0x01}, le32(0x11223344), le32(0x55667788), le32(0x99AABBCC)}),
+         hdrConfig(), cat({{0x01}, nat(uint32_t(0x11223344)), nat(uint32_t(0x55667788)), nat(uint32_t(0x99AABBCC))})},
+        {"RoamPreference", 0x002F, 0x16, {0x03}, one(zovQMINASGetDeviceConfigRespGetRoamPreference), {0x03}},
+        {"EmergencyMode", 0x0034, 0x10, {0x01}, one(zovQMINASGetSystemSelectionPreferenceRespGetEmergencyMode), {0x01}},
+        {"ModePreference", 0x0034, 0x11, le16(0x0C0D), one(zovQMINASGetSystemSelectionPreferenceRespGetModePreference),
+         nat(uint16_t(0x0C0D))},
+        {"BandPreference", 0x0034, 0x12, le64(0x0102030405060708ull),
+         one(zovQMINASGetSystemSelectionPreferenceRespGetBandPreference), nat(uint64_t(0x0102030405060708ull))},
+        {"CDMAPRLPreference", 0x0034, 0x13, le16(0x0001),
+         one(zovQMINASGetSystemSelectionPreferenceRespGetCDMAPRLPreference), nat(uint16_t(0x0001))},
+        {"RoamingPreference", 0x0034, 0x14, le16(0x00FF),
+         one(zovQMINASGetSystemSelectionPreferenceRespGetRoamingPreference), nat(uint16_t(0x00FF))},
+    };
+    for (const Getter& g : getters) {
+        SCOPED_TRACE(g.name);
+        Bytes msg = svcMessage(g.id, {result(), tlv(0x01, {0x00}), tlv(g.type, g.value)});
+        Bytes out;
+        EXPECT_EQ(g.call(msg.data(), int(msg.size()), false, out), int(g.value.size()));
+        EXPECT_EQ(out, g.expected);
+        EXPECT_EQ(g.call(msg.data(), int(msg.size()), true, out), -1);
+        EXPECT_EQ(g.call(nullptr, int(msg.size()), false, out), -1);
+        Bytes other = svcMessage(uint16_t(g.id + 1), {tlv(g.type, g.value)});
+        EXPECT_EQ(g.call(other.data(), int(other.size()), false, out), -2);
+        Bytes without = svcMessage(g.id, {result(), tlv(uint8_t(g.type + 0x20), g.value)});
+        EXPECT_EQ(g.call(without.data(), int(without.size()), false, out), -3);
+        // The item's last byte lies beyond the buffer: nothing is written.
+        Bytes cut = head(msg, msg.size() - 1);
+        EXPECT_EQ(g.call(cut.data(), int(cut.size()), false, out), ZOVQMI_ERR_MALFORMED);
+        EXPECT_EQ(out, Bytes(g.expected.size(), 0));
+    }
+}
+
+TEST(NasGetters, FixedFieldsAreReadPastAShortItemIntoTheFollowingBytes) {
+    // A CDMA system id item of length 2 is read on into the next item's bytes.
+    Bytes msg = svcMessage(0x0024, {result(), tlv(0x13, le16(0x0102)), tlv(0x16, {0x09})});
+    uint16_t sid = 0, nid = 0;
+    EXPECT_EQ(zovQMINASGetServingSystemRespGetCDMASystemID(msg.data(), int(msg.size()), &sid, &nid), 2);
+    EXPECT_EQ(sid, 0x0102);
+    EXPECT_EQ(nid, 0x0116);  // type 0x16 and the low length byte 0x01
+}
+
 }  // namespace
