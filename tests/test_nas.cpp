@@ -536,4 +536,231 @@ TEST(NasGetters, FixedFieldsAreReadPastAShortItemIntoTheFollowingBytes) {
     EXPECT_EQ(nid, 0x0116);  // type 0x16 and the low length byte 0x01
 }
 
+// ------------------------------------------------- mandatory items --
+
+TEST(NasResponses, GetSignalStrengthNeedsBothOutputsAndItsItem) {
+    Bytes msg = svcMessage(0x0020, {result(), tlv(0x01, {0xB0, 0x05})});
+    QmiResult r;
+    uint8_t strength = 0, ri = 0;
+    EXPECT_EQ(zovQMINASGetSignalStrengthResp(msg.data(), int(msg.size()), &r, &strength, &ri), 12);
+    EXPECT_EQ(strength, 0xB0);
+    EXPECT_EQ(ri, 0x05);
+    EXPECT_EQ(zovQMINASGetSignalStrengthResp(msg.data(), int(msg.size()), &r, nullptr, &ri), -1);
+    EXPECT_EQ(zovQMINASGetSignalStrengthResp(msg.data(), int(msg.size()), &r, &strength, nullptr), -1);
+    Bytes without = svcMessage(0x0020, {result(1, 2)});
+    r = untouchedResult();
+    EXPECT_EQ(zovQMINASGetSignalStrengthResp(without.data(), int(without.size()), &r, &strength, &ri), -4);
+    EXPECT_EQ(res(r), (Res{1, 2}));
+}
+
+TEST(NasResponses, GetACCOLCAndANAAAStatusDeliverOneByte) {
+    QmiResult r;
+    uint8_t v = 0;
+    Bytes accolc = svcMessage(0x002C, {result(), tlv(0x01, {0x09})});
+    EXPECT_EQ(zovQMINASGetACCOLCResp(accolc.data(), int(accolc.size()), &r, &v), 11);
+    EXPECT_EQ(v, 0x09);
+    EXPECT_EQ(zovQMINASGetACCOLCResp(accolc.data(), int(accolc.size()), &r, nullptr), -1);
+    Bytes status = svcMessage(0x0032, {result(), tlv(0x01, {0x01})});
+    EXPECT_EQ(zovQMINASGetANAAAStatusResp(status.data(), int(status.size()), &r, &v), 11);
+    EXPECT_EQ(v, 0x01);
+    EXPECT_EQ(zovQMINASGetANAAAStatusResp(status.data(), int(status.size()), nullptr, &v), -1);
+    EXPECT_EQ(zovQMINASGetANAAAStatusResp(accolc.data(), int(accolc.size()), &r, &v), -2);
+    Bytes without = svcMessage(0x0032, {result()});
+    EXPECT_EQ(zovQMINASGetANAAAStatusResp(without.data(), int(without.size()), &r, &v), -4);
+    without = svcMessage(0x002C, {result()});
+    EXPECT_EQ(zovQMINASGetACCOLCResp(without.data(), int(without.size()), &r, &v), -4);
+}
+
+Bytes rfBands() { return cat({{0x02}, {0x05}, le16(0x0102), le16(0x0304), {0x08}, le16(0x0506), le16(0x0708)}); }
+
+TEST(NasResponses, GetRFBandInfoCopiesFiveByteEntries) {
+    Bytes msg = svcMessage(0x0031, {result(), tlv(0x01, rfBands())});
+    QmiResult r;
+    uint8_t count = 0;
+    NASRFBandRecord list[3];
+    std::memset(list, 0xEE, sizeof list);
+    EXPECT_EQ(zovQMINASGetRFBandInfoResp(msg.data(), int(msg.size()), &r, &count, list), int(msg.size()) - 7);
+    EXPECT_EQ(count, 2);
+    const Bytes wire = rfBands();
+    EXPECT_EQ(bytesOf(list, 3), cat({Bytes(wire.begin() + 1, wire.end()), fill(5, 0xEE)}));
+    EXPECT_EQ(rd16(&list[1].third), 0x0708);
+    EXPECT_EQ(zovQMINASGetRFBandInfoResp(msg.data(), int(msg.size()), &r, nullptr, list), -1);
+    Bytes without = svcMessage(0x0031, {result()});
+    EXPECT_EQ(zovQMINASGetRFBandInfoResp(without.data(), int(without.size()), &r, &count, list), -4);
+}
+
+TEST(NasResponses, GetRFBandInfoWithNullArrayWritesOnlyTheCount) {
+    // Three entries announced, none present: without an array they are not read.
+    Bytes msg = svcMessage(0x0031, {result(), tlv(0x01, {0x03})});
+    QmiResult r;
+    uint8_t count = 0;
+    EXPECT_EQ(zovQMINASGetRFBandInfoResp(msg.data(), int(msg.size()), &r, &count, nullptr), 11);
+    EXPECT_EQ(count, 3);
+    NASRFBandRecord list[3];
+    std::memset(list, 0xEE, sizeof list);
+    count = 0xEE;
+    EXPECT_EQ(zovQMINASGetRFBandInfoResp(msg.data(), int(msg.size()), &r, &count, list), ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(count, 0xEE);
+    EXPECT_EQ(bytesOf(list, 3), fill(15, 0xEE));
+}
+
+TEST(NasIndications, EventReportRFBandListIsTheSameLayout) {
+    Bytes msg = svcMessage(0x0002, {tlv(0x11, rfBands())}, 0, 0x04);
+    uint8_t count = 0;
+    NASRFBandRecord list[2];
+    EXPECT_EQ(zovQMINASEventReportINDGetRFBandInformationList(msg.data(), int(msg.size()), &count, list), 11);
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(list[1].first, 0x08);
+    EXPECT_EQ(rd16(&list[1].second), 0x0506);
+    EXPECT_EQ(zovQMINASEventReportINDGetRFBandInformationList(msg.data(), int(msg.size()), nullptr, list), -1);
+    count = 0;
+    EXPECT_EQ(zovQMINASEventReportINDGetRFBandInformationList(msg.data(), int(msg.size()), &count, nullptr), 11);
+    EXPECT_EQ(count, 2);
+}
+
+// ------------------------------------------------------ serving system --
+
+NASServingSystem untouchedServing(uint8_t* list) {
+    NASServingSystem s;
+    std::memset(&s, 0xEE, sizeof s);
+    s.list = list;
+    return s;
+}
+
+TEST(NasServingSystem, ResponseFillsTheStateBytesAndTheRadioList) {
+    Bytes msg = svcMessage(0x0024, {result(), tlv(0x01, {0x01, 0x01, 0x02, 0x03, 0x02, 0x04, 0x05})});
+    QmiResult r;
+    Bytes list(3, 0xEE);
+    NASServingSystem ss = untouchedServing(list.data());
+    EXPECT_EQ(zovQMINASGetServingSystemResp(msg.data(), int(msg.size()), &r, &ss), 17);
+    EXPECT_EQ(head(bytesOf(&ss), 5), Bytes({0x01, 0x01, 0x02, 0x03, 0x02}));
+    EXPECT_EQ(ss.list, list.data());
+    EXPECT_EQ(list, Bytes({0x04, 0x05, 0xEE}));
+    EXPECT_EQ(zovQMINASGetServingSystemResp(msg.data(), int(msg.size()), &r, nullptr), -1);
+    Bytes without = svcMessage(0x0024, {result()});
+    EXPECT_EQ(zovQMINASGetServingSystemResp(without.data(), int(without.size()), &r, &ss), -4);
+}
+
+TEST(NasServingSystem, NullListPointerFillsTheFirstFiveBytesAndCopiesNothing) {
+    Bytes msg = svcMessage(0x0024, {result(), tlv(0x01, {0x01, 0x02, 0x03, 0x04, 0x02, 0x08, 0x09})});
+    QmiResult r;
+    NASServingSystem ss = untouchedServing(nullptr);
+    EXPECT_EQ(zovQMINASGetServingSystemResp(msg.data(), int(msg.size()), &r, &ss), 17);
+    EXPECT_EQ(head(bytesOf(&ss), 5), Bytes({0x01, 0x02, 0x03, 0x04, 0x02}));
+    EXPECT_EQ(ss.list, nullptr);
+}
+
+TEST(NasServingSystem, ListRunningPastTheBufferIsMalformedAndWritesNothing) {
+    Bytes msg = svcMessage(0x0024, {result(), tlv(0x01, {0x01, 0x02, 0x03, 0x04, 0x05, 0x08})});
+    QmiResult r;
+    Bytes list(5, 0xEE);
+    NASServingSystem ss = untouchedServing(list.data());
+    EXPECT_EQ(zovQMINASGetServingSystemResp(msg.data(), int(msg.size()), &r, &ss), ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(head(bytesOf(&ss), 5), fill(5, 0xEE));
+    EXPECT_EQ(list, fill(5, 0xEE));
+}
+
+TEST(NasServingSystem, IndicationWithoutItemOneIsMinusThree) {
+    Bytes msg = svcMessage(0x0024, {tlv(0x10, {0x01})}, 0, 0x04);
+    NASServingSystem ss = untouchedServing(nullptr);
+    EXPECT_EQ(zovQMINASGetServingSystemIND(msg.data(), int(msg.size()), &ss), -3);
+    EXPECT_EQ(head(bytesOf(&ss), 5), fill(5, 0xEE));
+    Bytes good = svcMessage(0x0024, {tlv(0x01, {0x01, 0x02, 0x03, 0x04, 0x01, 0x07})}, 0, 0x04);
+    uint8_t radio = 0;
+    ss = untouchedServing(&radio);
+    EXPECT_EQ(zovQMINASGetServingSystemIND(good.data(), int(good.size()), &ss), 9);
+    EXPECT_EQ(head(bytesOf(&ss), 5), Bytes({0x01, 0x02, 0x03, 0x04, 0x01}));
+    EXPECT_EQ(radio, 0x07);
+    EXPECT_EQ(zovQMINASGetServingSystemIND(good.data(), int(good.size()), nullptr), -1);
+    EXPECT_EQ(zovQMINASGetServingSystemIND(nullptr, 0, &ss), -1);
+    Bytes other = svcMessage(0x0025, {tlv(0x01, {0x01})});
+    EXPECT_EQ(zovQMINASGetServingSystemIND(other.data(), int(other.size()), &ss), -2);
+}
+
+TEST(NasServingSystem, DataServiceCapabilityListCopiesCountBytes) {
+    Bytes msg = svcMessage(0x0024, {result(), tlv(0x11, {0x03, 0x01, 0x02, 0x05})});
+    uint8_t count = 0;
+    Bytes list(4, 0xEE);
+    EXPECT_EQ(zovQMINASGetServingSystemRespGetDataServiceCapabilityList(msg.data(), int(msg.size()), &count,
+                                                                        list.data()),
+              4);
+    EXPECT_EQ(count, 3);
+    EXPECT_EQ(list, Bytes({0x01, 0x02, 0x05, 0xEE}));
+    EXPECT_EQ(zovQMINASGetServingSystemRespGetDataServiceCapabilityList(msg.data(), int(msg.size()), nullptr,
+                                                                        list.data()),
+              -1);
+    count = 0;
+    EXPECT_EQ(zovQMINASGetServingSystemRespGetDataServiceCapabilityList(msg.data(), int(msg.size()), &count, nullptr),
+              4);
+    EXPECT_EQ(count, 3);
+}
+
+TEST(NasServingSystem, RoamingIndicatorListSplitsPairsAndCountZeroWritesOnlyTheCount) {
+    Bytes msg = svcMessage(0x0024, {result(), tlv(0x15, {0x02, 0x01, 0x11, 0x02, 0x22})});
+    uint8_t count = 0;
+    Bytes first(3, 0xEE), second(3, 0xEE);
+    EXPECT_EQ(zovQMINASGetServingSystemRespGetRoamingIndicatorList(msg.data(), int(msg.size()), &count, first.data(),
+                                                                   second.data()),
+              5);
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(first, Bytes({0x01, 0x02, 0xEE}));
+    EXPECT_EQ(second, Bytes({0x11, 0x22, 0xEE}));
+    EXPECT_EQ(zovQMINASGetServingSystemRespGetRoamingIndicatorList(msg.data(), int(msg.size()), nullptr, nullptr,
+                                                                   nullptr),
+              -1);
+    Bytes empty = svcMessage(0x0024, {result(), tlv(0x15, {0x00})});
+    first = fill(3, 0xEE);
+    second = fill(3, 0xEE);
+    count = 0xEE;
+    EXPECT_EQ(zovQMINASGetServingSystemRespGetRoamingIndicatorList(empty.data(), int(empty.size()), &count,
+                                                                   first.data(), second.data()),
+              1);
+    EXPECT_EQ(count, 0);
+    EXPECT_EQ(first, fill(3, 0xEE));
+    EXPECT_EQ(second, fill(3, 0xEE));
+}
+
+TEST(NasServingSystem, CurrentPLMNFillsCodesAndDescriptionLengthOnly) {
+    Bytes msg = svcMessage(0x0024, {result(), tlv(0x12, cat({le16(0x0136), le16(0x0001), {0x03}, str("ABC")}))});
+    Bytes desc(4, 0xEE);
+    NASNetworkRecord net = untouchedNetwork(desc.data());
+    EXPECT_EQ(zovQMINASGetServingSystemRespGetCurrentPLMN(msg.data(), int(msg.size()), &net), 8);
+    EXPECT_EQ(rd16(&net.firstCode), 0x0136);
+    EXPECT_EQ(rd16(&net.secondCode), 0x0001);
+    EXPECT_EQ(rd16(&net.thirdCode), 0xEEEE);
+    EXPECT_EQ(net.status, 0xEE);
+    EXPECT_EQ(net.descriptionLength, 3);
+    EXPECT_EQ(net.description, desc.data());
+    EXPECT_EQ(desc, cat({str("ABC"), {0xEE}}));
+    EXPECT_EQ(zovQMINASGetServingSystemRespGetCurrentPLMN(msg.data(), int(msg.size()), nullptr), -1);
+    net = untouchedNetwork();
+    EXPECT_EQ(zovQMINASGetServingSystemRespGetCurrentPLMN(msg.data(), int(msg.size()), &net), 8);
+    EXPECT_EQ(net.descriptionLength, 3);
+}
+
+TEST(NasHomeNetwork, ResponseFillsTheNetworkRecordFromItemOne) {
+    Bytes msg = svcMessage(0x0025, {result(), tlv(0x01, cat({le16(0x00F1), le16(0x0010), {0x02}, str("XY")}))});
+    QmiResult r;
+    Bytes desc(2, 0xEE);
+    NASNetworkRecord net = untouchedNetwork(desc.data());
+    EXPECT_EQ(zovQMINASGetHomeNetworkResp(msg.data(), int(msg.size()), &r, &net), 17);
+    EXPECT_EQ(rd16(&net.firstCode), 0x00F1);
+    EXPECT_EQ(rd16(&net.secondCode), 0x0010);
+    EXPECT_EQ(rd16(&net.thirdCode), 0xEEEE);
+    EXPECT_EQ(net.status, 0xEE);
+    EXPECT_EQ(net.descriptionLength, 2);
+    EXPECT_EQ(desc, str("XY"));
+    EXPECT_EQ(zovQMINASGetHomeNetworkResp(msg.data(), int(msg.size()), &r, nullptr), -1);
+    Bytes without = svcMessage(0x0025, {result()});
+    EXPECT_EQ(zovQMINASGetHomeNetworkResp(without.data(), int(without.size()), &r, &net), -4);
+    // A description running past the buffer: nothing at all is written.
+    Bytes cut = head(msg, msg.size() - 1);
+    net = untouchedNetwork(desc.data());
+    desc = fill(2, 0xEE);
+    net.description = desc.data();
+    EXPECT_EQ(zovQMINASGetHomeNetworkResp(cut.data(), int(cut.size()), &r, &net), ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(head(bytesOf(&net), 8), fill(8, 0xEE));
+    EXPECT_EQ(desc, fill(2, 0xEE));
+}
+
 }  // namespace
