@@ -763,4 +763,287 @@ TEST(NasHomeNetwork, ResponseFillsTheNetworkRecordFromItemOne) {
     EXPECT_EQ(desc, fill(2, 0xEE));
 }
 
+// --------------------------------------------------------------- lists --
+
+using PairListGetter = int (*)(const uint8_t*, int, uint16_t*, uint8_t*, uint8_t*);
+
+TEST(NasSignalStrength, EveryPairListHasAU16CountAndSplitsItsPairs) {
+    const struct {
+        const char* name;
+        PairListGetter get;
+        uint8_t type;
+    } lists[] = {
+        {"SignalStrengthList", zovQMINASGetSignalStrengthRespGetSignalStrengthList, 0x10},
+        {"RSSIList", zovQMINASGetSignalStrengthRespGetRSSIList, 0x11},
+        {"ECIOList", zovQMINASGetSignalStrengthRespGetECIOList, 0x12},
+    };
+    for (const auto& l : lists) {
+        SCOPED_TRACE(l.name);
+        Bytes msg = svcMessage(0x0020, {result(), tlv(0x01, {0, 0}), tlv(l.type, {0x02, 0x00, 0xA1, 0x01, 0xA2, 0x02})});
+        int len = int(msg.size());
+        uint16_t count = 0;
+        Bytes first(3, 0xEE), second(3, 0xEE);
+        EXPECT_EQ(l.get(msg.data(), len, &count, first.data(), second.data()), 6);
+        EXPECT_EQ(count, 2);
+        EXPECT_EQ(first, Bytes({0xA1, 0xA2, 0xEE}));
+        EXPECT_EQ(second, Bytes({0x01, 0x02, 0xEE}));
+        // Each array is optional on its own.
+        first = fill(3, 0xEE);
+        EXPECT_EQ(l.get(msg.data(), len, &count, nullptr, second.data()), 6);
+        EXPECT_EQ(l.get(msg.data(), len, &count, first.data(), nullptr), 6);
+        EXPECT_EQ(first, Bytes({0xA1, 0xA2, 0xEE}));
+        EXPECT_EQ(l.get(msg.data(), len, nullptr, first.data(), second.data()), -1);
+        EXPECT_EQ(l.get(nullptr, len, &count, first.data(), second.data()), -1);
+        Bytes noItem = svcMessage(0x0020, {result()});
+        EXPECT_EQ(l.get(noItem.data(), int(noItem.size()), &count, nullptr, nullptr), -3);
+        EXPECT_EQ(l.get(noItem.data(), int(noItem.size()) - 1, &count, nullptr, nullptr), -3);
+    }
+}
+
+TEST(NasSignalStrength, ListCountRunningPastTheBufferIsMalformedAndWritesNothing) {
+    Bytes msg = svcMessage(0x0020, {result(), tlv(0x10, {0x03, 0x00, 0xA1, 0x01, 0xA2, 0x02})});
+    uint16_t count = 0xEEEE;
+    Bytes first(3, 0xEE), second(3, 0xEE);
+    EXPECT_EQ(zovQMINASGetSignalStrengthRespGetSignalStrengthList(msg.data(), int(msg.size()), &count, first.data(),
+                                                                  second.data()),
+              ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(count, 0xEEEE);
+    EXPECT_EQ(first, fill(3, 0xEE));
+    EXPECT_EQ(second, fill(3, 0xEE));
+    // Without arrays only the count is read.
+    EXPECT_EQ(zovQMINASGetSignalStrengthRespGetSignalStrengthList(msg.data(), int(msg.size()), &count, nullptr,
+                                                                  nullptr),
+              6);
+    EXPECT_EQ(count, 3);
+}
+
+TEST(NasSignalStrength, ErrorRateListDeliversNativeU16AndU8Arrays) {
+    Bytes msg = svcMessage(0x0020, {result(), tlv(0x15, cat({le16(2), le16(0x0102), {0x05}, le16(0x0304), {0x06}}))});
+    uint16_t count = 0;
+    uint16_t rates[3] = {0xEEEE, 0xEEEE, 0xEEEE};
+    Bytes ri(3, 0xEE);
+    EXPECT_EQ(zovQMINASGetSignalStrengthRespGetErrorRateList(msg.data(), int(msg.size()), &count, rates, ri.data()), 8);
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(rates[0], 0x0102);
+    EXPECT_EQ(rates[1], 0x0304);
+    EXPECT_EQ(rates[2], 0xEEEE);
+    EXPECT_EQ(ri, Bytes({0x05, 0x06, 0xEE}));
+    EXPECT_EQ(zovQMINASGetSignalStrengthRespGetErrorRateList(msg.data(), int(msg.size()), nullptr, rates, ri.data()),
+              -1);
+    count = 0;
+    EXPECT_EQ(zovQMINASGetSignalStrengthRespGetErrorRateList(msg.data(), int(msg.size()), &count, nullptr, nullptr), 8);
+    EXPECT_EQ(count, 2);
+}
+
+// One scan element: codes, status, description.
+Bytes scanned(uint16_t a, uint16_t b, uint8_t status, const std::string& desc) {
+    return cat({le16(a), le16(b), {status, uint8_t(desc.size())}, str(desc)});
+}
+
+TEST(NasNetworkScan, ElementsAreWalkedByTheirOwnLengthAndRecordsByTheirSize) {
+    Bytes value = cat({le16(2), scanned(0x0136, 0x0001, 0x0A, "ABCD"), scanned(0x0208, 0x0002, 0x0B, "XY")});
+    // The second element starts at value byte 2 + 6 + 4 = 12.
+    ASSERT_EQ(value[12], 0x08);
+    Bytes msg = svcMessage(0x0021, {result(), tlv(0x10, value)});
+    uint16_t count = 0;
+    Bytes d0(5, 0xEE), d1(3, 0xEE);
+    NASNetworkRecord list[3] = {untouchedNetwork(d0.data()), untouchedNetwork(d1.data()), untouchedNetwork()};
+    EXPECT_EQ(zovQMINASPerformNetworkScanRespGet3GPPNetworkInformation(msg.data(), int(msg.size()), &count, list),
+              int(value.size()));
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(rd16(&list[0].firstCode), 0x0136);
+    EXPECT_EQ(rd16(&list[0].secondCode), 0x0001);
+    EXPECT_EQ(rd16(&list[0].thirdCode), 0xEEEE);
+    EXPECT_EQ(list[0].status, 0x0A);
+    EXPECT_EQ(list[0].descriptionLength, 4);
+    EXPECT_EQ(d0, cat({str("ABCD"), {0xEE}}));
+    EXPECT_EQ(rd16(&list[1].firstCode), 0x0208);
+    EXPECT_EQ(rd16(&list[1].secondCode), 0x0002);
+    EXPECT_EQ(rd16(&list[1].thirdCode), 0xEEEE);
+    EXPECT_EQ(list[1].status, 0x0B);
+    EXPECT_EQ(list[1].descriptionLength, 2);
+    EXPECT_EQ(list[1].description, d1.data());
+    EXPECT_EQ(d1, cat({str("XY"), {0xEE}}));
+    EXPECT_EQ(head(bytesOf(&list[2]), 8), fill(8, 0xEE));
+}
+
+TEST(NasNetworkScan, NullArrayReturnsOnlyTheCount) {
+    // The elements are absent altogether: with no array they are never read.
+    Bytes msg = svcMessage(0x0021, {result(), tlv(0x10, le16(2))});
+    uint16_t count = 0;
+    EXPECT_EQ(zovQMINASPerformNetworkScanRespGet3GPPNetworkInformation(msg.data(), int(msg.size()), &count, nullptr), 2);
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(zovQMINASPerformNetworkScanRespGet3GPPNetworkInformation(msg.data(), int(msg.size()), nullptr, nullptr),
+              -1);
+    Bytes noItem = svcMessage(0x0021, {result()});
+    EXPECT_EQ(zovQMINASPerformNetworkScanRespGet3GPPNetworkInformation(noItem.data(), int(noItem.size()), &count,
+                                                                       nullptr),
+              -3);
+}
+
+TEST(NasNetworkScan, NullDescriptionPointersStillAdvanceTheWalk) {
+    Bytes value = cat({le16(2), scanned(1, 2, 3, "LONG NAME"), scanned(4, 5, 6, "")});
+    Bytes msg = svcMessage(0x0021, {result(), tlv(0x10, value)});
+    uint16_t count = 0;
+    NASNetworkRecord list[2] = {untouchedNetwork(), untouchedNetwork()};
+    EXPECT_EQ(zovQMINASPerformNetworkScanRespGet3GPPNetworkInformation(msg.data(), int(msg.size()), &count, list),
+              int(value.size()));
+    EXPECT_EQ(list[0].descriptionLength, 9);
+    EXPECT_EQ(rd16(&list[1].firstCode), 4);
+    EXPECT_EQ(list[1].status, 6);
+    EXPECT_EQ(list[1].descriptionLength, 0);
+}
+
+TEST(NasNetworkScan, DescriptionCutShortByTheBufferIsMalformedAndWritesNothing) {
+    Bytes value = cat({le16(2), scanned(1, 2, 3, "AB"), scanned(4, 5, 6, "CDEF")});
+    Bytes msg = head(svcMessage(0x0021, {result(), tlv(0x10, value)}), 7 + 7 + 3 + value.size() - 1);
+    uint16_t count = 0xEEEE;
+    Bytes d0(2, 0xEE), d1(4, 0xEE);
+    NASNetworkRecord list[2] = {untouchedNetwork(d0.data()), untouchedNetwork(d1.data())};
+    EXPECT_EQ(zovQMINASPerformNetworkScanRespGet3GPPNetworkInformation(msg.data(), int(msg.size()), &count, list),
+              ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(count, 0xEEEE);
+    EXPECT_EQ(head(bytesOf(&list[0]), 8), fill(8, 0xEE));
+    EXPECT_EQ(head(bytesOf(&list[1]), 8), fill(8, 0xEE));
+    EXPECT_EQ(d0, fill(2, 0xEE));
+    EXPECT_EQ(d1, fill(4, 0xEE));
+}
+
+using NetworkListGetter = int (*)(const uint8_t*, int, uint16_t*, NASNetworkRecord*);
+
+TEST(NasNetworkLists, PreferredListsFillThreeCodesAndLeaveTheRest) {
+    const struct {
+        const char* name;
+        NetworkListGetter get;
+        uint8_t type;
+    } lists[] = {
+        {"3GPPPreferredNetworks", zovQMINASGetPreferredNetworksRespGet3GPPPreferredNetworks, 0x10},
+        {"Static3GPPPreferredNetworks", zovQMINASGetPreferredNetworksRespGetStatic3GPPPreferredNetworks, 0x11},
+    };
+    for (const auto& l : lists) {
+        SCOPED_TRACE(l.name);
+        Bytes value = cat({le16(2), le16(0x0136), le16(0x0001), le16(0x4000), le16(0x0208), le16(0x0002), le16(0x8000)});
+        Bytes msg = svcMessage(0x0026, {result(), tlv(l.type, value)});
+        uint16_t count = 0;
+        uint8_t desc = 0xEE;
+        NASNetworkRecord list[3] = {untouchedNetwork(&desc), untouchedNetwork(), untouchedNetwork()};
+        EXPECT_EQ(l.get(msg.data(), int(msg.size()), &count, list), 14);
+        EXPECT_EQ(count, 2);
+        EXPECT_EQ(rd16(&list[0].firstCode), 0x0136);
+        EXPECT_EQ(rd16(&list[0].secondCode), 0x0001);
+        EXPECT_EQ(rd16(&list[0].thirdCode), 0x4000);
+        EXPECT_EQ(list[0].status, 0xEE);
+        EXPECT_EQ(list[0].descriptionLength, 0xEE);
+        EXPECT_EQ(list[0].description, &desc);
+        EXPECT_EQ(rd16(&list[1].firstCode), 0x0208);
+        EXPECT_EQ(rd16(&list[1].thirdCode), 0x8000);
+        EXPECT_EQ(head(bytesOf(&list[2]), 8), fill(8, 0xEE));
+        EXPECT_EQ(l.get(msg.data(), int(msg.size()), nullptr, list), -1);
+        count = 0;
+        EXPECT_EQ(l.get(msg.data(), int(msg.size()), &count, nullptr), 14);
+        EXPECT_EQ(count, 2);
+        Bytes other = svcMessage(0x0026, {result(), tlv(uint8_t(l.type ^ 0x01), value)});
+        EXPECT_EQ(l.get(other.data(), int(other.size()), &count, list), -3);  // each list reads only its own item
+        Bytes none = svcMessage(0x0026, {result()});
+        EXPECT_EQ(l.get(none.data(), int(none.size()), &count, list), -3);
+    }
+}
+
+TEST(NasNetworkLists, ForbiddenListFillsTwoCodesAndLeavesTheThird) {
+    Bytes value = cat({le16(2), le16(0x0136), le16(0x0001), le16(0x0208), le16(0x0002)});
+    Bytes msg = svcMessage(0x0028, {result(), tlv(0x10, value)});
+    uint16_t count = 0;
+    NASNetworkRecord list[2] = {untouchedNetwork(), untouchedNetwork()};
+    EXPECT_EQ(zovQMINASGetForbiddenNetworksRespGet3GPPForbiddenNetworks(msg.data(), int(msg.size()), &count, list), 10);
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(rd16(&list[0].firstCode), 0x0136);
+    EXPECT_EQ(rd16(&list[0].secondCode), 0x0001);
+    EXPECT_EQ(rd16(&list[0].thirdCode), 0xEEEE);
+    EXPECT_EQ(rd16(&list[1].firstCode), 0x0208);
+    EXPECT_EQ(rd16(&list[1].secondCode), 0x0002);
+    EXPECT_EQ(rd16(&list[1].thirdCode), 0xEEEE);
+    EXPECT_EQ(list[1].status, 0xEE);
+    EXPECT_EQ(zovQMINASGetForbiddenNetworksRespGet3GPPForbiddenNetworks(msg.data(), int(msg.size()), nullptr, list),
+              -1);
+    Bytes wrong = svcMessage(0x0026, {result(), tlv(0x10, value)});
+    EXPECT_EQ(zovQMINASGetForbiddenNetworksRespGet3GPPForbiddenNetworks(wrong.data(), int(wrong.size()), &count, list),
+              -2);
+    // A count beyond the buffer: nothing written.
+    Bytes over = svcMessage(0x0028, {result(), tlv(0x10, cat({le16(3), le16(1), le16(2)}))});
+    NASNetworkRecord fresh = untouchedNetwork();
+    count = 0xEEEE;
+    EXPECT_EQ(zovQMINASGetForbiddenNetworksRespGet3GPPForbiddenNetworks(over.data(), int(over.size()), &count, &fresh),
+              ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(count, 0xEEEE);
+    EXPECT_EQ(head(bytesOf(&fresh), 8), fill(8, 0xEE));
+}
+
+// ------------------------------------------------------------------ DDTM --
+
+Bytes ddtm(uint8_t count) {
+    Bytes v = {0x01, 0x02};
+    v = cat({v, le16(0x0A0B), {count}});
+    for (uint8_t i = 0; i < count; ++i) v = cat({v, le16(uint16_t(0x1100 + i))});
+    return svcMessage(0x0038, {tlv(0x01, v)}, 0, 0x04);
+}
+
+TEST(NasDDTM, IndicationReturnsZeroNotTheAreaLength) {
+    Bytes msg = ddtm(2);
+    uint8_t a = 0, b = 0, count = 0;
+    uint16_t c = 0, list[3] = {0xEEEE, 0xEEEE, 0xEEEE};
+    EXPECT_EQ(zovQMINASDDTMIND(msg.data(), int(msg.size()), &a, &b, &c, &count, list), 0);
+    EXPECT_EQ(a, 0x01);
+    EXPECT_EQ(b, 0x02);
+    EXPECT_EQ(c, 0x0A0B);
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(list[0], 0x1100);
+    EXPECT_EQ(list[1], 0x1101);
+    EXPECT_EQ(list[2], 0xEEEE);
+}
+
+TEST(NasDDTM, CountZeroWithNullListSucceeds) {
+    Bytes msg = ddtm(0);
+    uint8_t a = 0, b = 0, count = 0xEE;
+    uint16_t c = 0;
+    EXPECT_EQ(zovQMINASDDTMIND(msg.data(), int(msg.size()), &a, &b, &c, &count, nullptr), 0);
+    EXPECT_EQ(count, 0);
+    EXPECT_EQ(c, 0x0A0B);
+}
+
+TEST(NasDDTM, NonZeroCountWithNullListIsRefusedAndWritesNothing) {
+    Bytes msg = ddtm(2);
+    uint8_t a = 0xEE, b = 0xEE, count = 0xEE;
+    uint16_t c = 0xEEEE;
+    EXPECT_EQ(zovQMINASDDTMIND(msg.data(), int(msg.size()), &a, &b, &c, &count, nullptr), -1);
+    EXPECT_EQ(a, 0xEE);
+    EXPECT_EQ(b, 0xEE);
+    EXPECT_EQ(c, 0xEEEE);
+    EXPECT_EQ(count, 0xEE);
+}
+
+TEST(NasDDTM, ReturnCodesForMissingOutputsMessageAndItem) {
+    Bytes msg = ddtm(1);
+    uint8_t a = 0, b = 0, count = 0;
+    uint16_t c = 0, list[1];
+    EXPECT_EQ(zovQMINASDDTMIND(nullptr, int(msg.size()), &a, &b, &c, &count, list), -1);
+    EXPECT_EQ(zovQMINASDDTMIND(msg.data(), int(msg.size()), nullptr, &b, &c, &count, list), -1);
+    EXPECT_EQ(zovQMINASDDTMIND(msg.data(), int(msg.size()), &a, nullptr, &c, &count, list), -1);
+    EXPECT_EQ(zovQMINASDDTMIND(msg.data(), int(msg.size()), &a, &b, nullptr, &count, list), -1);
+    EXPECT_EQ(zovQMINASDDTMIND(msg.data(), int(msg.size()), &a, &b, &c, nullptr, list), -1);
+    Bytes other = svcMessage(0x0037, {tlv(0x01, {1, 2, 3, 4, 0})});
+    EXPECT_EQ(zovQMINASDDTMIND(other.data(), int(other.size()), &a, &b, &c, &count, list), -2);
+    Bytes noItem = svcMessage(0x0038, {result()}, 0, 0x04);
+    EXPECT_EQ(zovQMINASDDTMIND(noItem.data(), int(noItem.size()), &a, &b, &c, &count, list), -3);
+}
+
+TEST(NasDDTM, ListRunningPastTheBufferIsMalformedAndWritesNothing) {
+    Bytes msg = head(ddtm(2), ddtm(2).size() - 1);
+    uint8_t a = 0xEE, b = 0xEE, count = 0xEE;
+    uint16_t c = 0xEEEE, list[2] = {0xEEEE, 0xEEEE};
+    EXPECT_EQ(zovQMINASDDTMIND(msg.data(), int(msg.size()), &a, &b, &c, &count, list), ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(a, 0xEE);
+    EXPECT_EQ(count, 0xEE);
+    EXPECT_EQ(list[0], 0xEEEE);
+}
+
 }  // namespace
