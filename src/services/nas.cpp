@@ -15,9 +15,11 @@ namespace {
 constexpr size_t kFirstCode = 0, kSecondCode = 2, kStatus = 6, kDescLength = 7, kDescription = 8;
 constexpr size_t kNetwork = sizeof(NASNetworkRecord);
 
-// A network with a description: u16 first code, u16 second code, u8 n, n
-// description bytes from value offset `off`; written into the record at
-// `at` (fields 1, 2 and the description length).  Returns n.
+// A network with a description at value offset `off`: u16 first code, u16
+// second code, the length byte n at `off + lengthOff`, then n description
+// bytes.  Writes the codes and the description length into the record at
+// `at`, and the description into the caller's buffer when it set one.
+// Returns n.
 uint8_t describedNetwork(Dec& d, Dec::Record& rec, size_t at, size_t off, size_t lengthOff) {
     rec.put16(at + kFirstCode, d.le16(off));
     rec.put16(at + kSecondCode, d.le16(off + 2));
