@@ -340,7 +340,239 @@ ZOVQMI_API int zovQMIDMSUIMGetStateResp(const uint8_t* msg, int len, QmiResult* 
 
 
 /* ---------------------------------------------------------------- NAS -- */
-/* (NAS declarations) */
+#pragma pack(push, 1)
+
+/* NAS: the serving system item 0x01 of GetServingSystem (response and
+ * indication): four state bytes, then a list of listCount bytes copied into
+ * the caller's buffer `list` when it is non-null. 5 + pointer bytes. */
+typedef struct NASServingSystem {
+    uint8_t state[4];
+    uint8_t listCount;
+    uint8_t* list;
+} NASServingSystem;
+
+/* NAS: one network, the element of every network list (scan results, current
+ * and home network, preferred and forbidden lists).  Each parser writes only
+ * its own fields and leaves the others as the caller set them:
+ *   firstCode, secondCode   all of them
+ *   thirdCode               preferred lists only
+ *   status                  scan only
+ *   descriptionLength       scan, current network, home network
+ * `description` is never written: when non-null it receives the description
+ * bytes.  Arrays are walked with this record's size as stride.
+ * 8 + pointer bytes. */
+typedef struct NASNetworkRecord {
+    uint16_t firstCode;
+    uint16_t secondCode;
+    uint16_t thirdCode;
+    uint8_t status;
+    uint8_t descriptionLength;
+    uint8_t* description;
+} NASNetworkRecord;
+
+/* NAS: one RF band entry, laid out as on the wire (5 bytes). */
+typedef struct NASRFBandRecord {
+    uint8_t first;
+    uint16_t second;
+    uint16_t third;
+} NASRFBandRecord;
+
+/* NAS: the manual network registration item of InitiateNetworkRegister (5 bytes). */
+typedef struct NASManualNetworkRegister {
+    uint16_t firstCode;
+    uint16_t secondCode;
+    uint8_t third;
+} NASManualNetworkRegister;
+
+#pragma pack(pop)
+
+/* Reset 0x0000, Abort 0x0001 */
+ZOVQMI_API int zovQMINASResetReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASResetResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMINASAbortReq(uint8_t* buf, int bufsize, uint16_t transactionId);
+ZOVQMI_API int zovQMINASAbortResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* SetEventReport 0x0002 and the EventReport indication */
+ZOVQMI_API int zovQMINASSetEventReportReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASSetEventReportReqAddSignalStrengthIndicator(uint8_t* buf, int bufsize, uint8_t report,
+                                                                    uint8_t count, const uint8_t* thresholds);
+ZOVQMI_API int zovQMINASSetEventReportReqAddRFBandInformation(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMINASSetEventReportReqAddRegistrationRejectReasons(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMINASSetEventReportReqAddRSSIIndicator(uint8_t* buf, int bufsize, uint8_t report, uint8_t delta);
+ZOVQMI_API int zovQMINASSetEventReportReqAddECIOIndicator(uint8_t* buf, int bufsize, uint8_t report, uint8_t delta);
+ZOVQMI_API int zovQMINASSetEventReportReqAddIOIndicator(uint8_t* buf, int bufsize, uint8_t report, uint8_t delta);
+ZOVQMI_API int zovQMINASSetEventReportReqAddSINRIndicator(uint8_t* buf, int bufsize, uint8_t report, uint8_t delta);
+ZOVQMI_API int zovQMINASSetEventReportReqAddErrorRateIndicator(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMINASSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMINASEventReportIND(const uint8_t* msg, int len);
+ZOVQMI_API int zovQMINASEventReportINDGetSignalStrength(const uint8_t* msg, int len, uint8_t* strength,
+                                                        uint8_t* radioInterface);
+ZOVQMI_API int zovQMINASEventReportINDGetRFBandInformationList(const uint8_t* msg, int len, uint8_t* count,
+                                                               NASRFBandRecord* list);
+ZOVQMI_API int zovQMINASEventReportINDGetRegistrationRejectReason(const uint8_t* msg, int len, uint8_t* domain,
+                                                                  uint16_t* cause);
+ZOVQMI_API int zovQMINASEventReportINDGetRSSI(const uint8_t* msg, int len, uint8_t* rssi, uint8_t* radioInterface);
+ZOVQMI_API int zovQMINASEventReportINDGetECIO(const uint8_t* msg, int len, uint8_t* ecio, uint8_t* radioInterface);
+ZOVQMI_API int zovQMINASEventReportINDGetIO(const uint8_t* msg, int len, uint32_t* io);
+ZOVQMI_API int zovQMINASEventReportINDGetSINR(const uint8_t* msg, int len, uint8_t* sinr);
+ZOVQMI_API int zovQMINASEventReportINDGetErrorRate(const uint8_t* msg, int len, uint16_t* errorRate,
+                                                   uint8_t* radioInterface);
+
+/* IndicationRegister 0x0003 */
+ZOVQMI_API int zovQMINASIndicationRegisterReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASIndicationRegisterReqAddSystemSelectionPreference(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMINASIndicationRegisterReqAddDDTMEvents(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMINASIndicationRegisterReqAddServingSystemEvents(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMINASIndicationRegisterResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetSignalStrength 0x0020 */
+ZOVQMI_API int zovQMINASGetSignalStrengthReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetSignalStrengthReqAddRequestMask(uint8_t* buf, int bufsize, uint16_t mask);
+ZOVQMI_API int zovQMINASGetSignalStrengthResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* strength,
+                                              uint8_t* radioInterface);
+ZOVQMI_API int zovQMINASGetSignalStrengthRespGetSignalStrengthList(const uint8_t* msg, int len, uint16_t* count,
+                                                                   uint8_t* first, uint8_t* second);
+ZOVQMI_API int zovQMINASGetSignalStrengthRespGetRSSIList(const uint8_t* msg, int len, uint16_t* count, uint8_t* first,
+                                                         uint8_t* second);
+ZOVQMI_API int zovQMINASGetSignalStrengthRespGetECIOList(const uint8_t* msg, int len, uint16_t* count, uint8_t* first,
+                                                         uint8_t* second);
+ZOVQMI_API int zovQMINASGetSignalStrengthRespGetIO(const uint8_t* msg, int len, uint32_t* io);
+ZOVQMI_API int zovQMINASGetSignalStrengthRespGetSINR(const uint8_t* msg, int len, uint8_t* sinr);
+ZOVQMI_API int zovQMINASGetSignalStrengthRespGetErrorRateList(const uint8_t* msg, int len, uint16_t* count,
+                                                              uint16_t* errorRates, uint8_t* radioInterfaces);
+
+/* PerformNetworkScan 0x0021 */
+ZOVQMI_API int zovQMINASPerformNetworkScanReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASPerformNetworkScanResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMINASPerformNetworkScanRespGet3GPPNetworkInformation(const uint8_t* msg, int len, uint16_t* count,
+                                                                        NASNetworkRecord* list);
+
+/* InitiateNetworkRegister 0x0022 */
+ZOVQMI_API int zovQMINASInitiateNetworkRegisterReq(uint8_t* buf, int bufsize, uint8_t action);
+ZOVQMI_API int zovQMINASInitiateNetworkRegisterReqAddManualNetworkRegisterInformation(
+    uint8_t* buf, int bufsize, const NASManualNetworkRegister* info);
+ZOVQMI_API int zovQMINASInitiateNetworkRegisterResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* InitiateAttach 0x0023 */
+ZOVQMI_API int zovQMINASInitiateAttachReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASInitiateAttachReqAddPSAttachAction(uint8_t* buf, int bufsize, uint8_t action);
+ZOVQMI_API int zovQMINASInitiateAttachResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetServingSystem 0x0024 and the ServingSystem indication */
+ZOVQMI_API int zovQMINASGetServingSystemReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetServingSystemResp(const uint8_t* msg, int len, QmiResult* result,
+                                             NASServingSystem* servingSystem);
+ZOVQMI_API int zovQMINASGetServingSystemRespGetRoamingIndicatorValue(const uint8_t* msg, int len, uint8_t* value);
+ZOVQMI_API int zovQMINASGetServingSystemRespGetDataServiceCapabilityList(const uint8_t* msg, int len, uint8_t* count,
+                                                                         uint8_t* list);
+ZOVQMI_API int zovQMINASGetServingSystemRespGetCurrentPLMN(const uint8_t* msg, int len, NASNetworkRecord* network);
+ZOVQMI_API int zovQMINASGetServingSystemRespGetCDMASystemID(const uint8_t* msg, int len, uint16_t* systemId,
+                                                            uint16_t* networkId);
+ZOVQMI_API int zovQMINASGetServingSystemRespGetCDMABaseStationInformation(const uint8_t* msg, int len,
+                                                                          uint16_t* baseId, uint32_t* latitude,
+                                                                          uint32_t* longitude);
+ZOVQMI_API int zovQMINASGetServingSystemRespGetRoamingIndicatorList(const uint8_t* msg, int len, uint8_t* count,
+                                                                    uint8_t* first, uint8_t* second);
+ZOVQMI_API int zovQMINASGetServingSystemRespGetDefaultRoamingIndicator(const uint8_t* msg, int len, uint8_t* value);
+ZOVQMI_API int zovQMINASGetServingSystemRespGet3GPP2TimeZone(const uint8_t* msg, int len, uint8_t* leapSeconds,
+                                                             uint8_t* localOffset, uint8_t* daylightSaving);
+ZOVQMI_API int zovQMINASGetServingSystemRespGetCDMAPRevInUse(const uint8_t* msg, int len, uint8_t* pRev);
+ZOVQMI_API int zovQMINASGetServingSystemIND(const uint8_t* msg, int len, NASServingSystem* servingSystem);
+
+/* GetHomeNetwork 0x0025 */
+ZOVQMI_API int zovQMINASGetHomeNetworkReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetHomeNetworkResp(const uint8_t* msg, int len, QmiResult* result, NASNetworkRecord* network);
+ZOVQMI_API int zovQMINASGetHomeNetworkRespGetHomeSystemID(const uint8_t* msg, int len, uint16_t* systemId,
+                                                          uint16_t* networkId);
+
+/* GetPreferredNetworks 0x0026, SetPreferredNetworks 0x0027 */
+ZOVQMI_API int zovQMINASGetPreferredNetworksReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetPreferredNetworksResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMINASGetPreferredNetworksRespGet3GPPPreferredNetworks(const uint8_t* msg, int len, uint16_t* count,
+                                                                         NASNetworkRecord* list);
+ZOVQMI_API int zovQMINASGetPreferredNetworksRespGetStatic3GPPPreferredNetworks(const uint8_t* msg, int len,
+                                                                               uint16_t* count,
+                                                                               NASNetworkRecord* list);
+ZOVQMI_API int zovQMINASSetPreferredNetworksReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASSetPreferredNetworksReqAdd3GPPPreferredNetworks(uint8_t* buf, int bufsize, uint32_t count,
+                                                                        const NASNetworkRecord* list);
+ZOVQMI_API int zovQMINASSetPreferredNetworksResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetForbiddenNetworks 0x0028, SetForbiddenNetworks 0x0029 */
+ZOVQMI_API int zovQMINASGetForbiddenNetworksReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetForbiddenNetworksResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMINASGetForbiddenNetworksRespGet3GPPForbiddenNetworks(const uint8_t* msg, int len, uint16_t* count,
+                                                                         NASNetworkRecord* list);
+ZOVQMI_API int zovQMINASSetForbiddenNetworksReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASSetForbiddenNetworksReqAdd3GPPForbiddenNetworks(uint8_t* buf, int bufsize, uint32_t count,
+                                                                        const NASNetworkRecord* list);
+ZOVQMI_API int zovQMINASSetForbiddenNetworksResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetACCOLC 0x002C, SetACCOLC 0x002D */
+ZOVQMI_API int zovQMINASGetACCOLCReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetACCOLCResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* accolc);
+ZOVQMI_API int zovQMINASSetACCOLCReq(uint8_t* buf, int bufsize, const uint8_t* code, uint8_t accolc);
+ZOVQMI_API int zovQMINASSetACCOLCResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetDeviceConfig 0x002F, SetDeviceConfig 0x0030 */
+ZOVQMI_API int zovQMINASGetDeviceConfigReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetDeviceConfigResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMINASGetDeviceConfigRespGetSlotCycleIndex(const uint8_t* msg, int len, uint8_t* index);
+ZOVQMI_API int zovQMINASGetDeviceConfigRespGetStationClassMark(const uint8_t* msg, int len, uint8_t* mark);
+ZOVQMI_API int zovQMINASGetDeviceConfigRespGetRegistrationParameters(const uint8_t* msg, int len, uint8_t* first,
+                                                                     uint8_t* second, uint8_t* third);
+ZOVQMI_API int zovQMINASGetDeviceConfigRespGetForceHDRRevision(const uint8_t* msg, int len, uint8_t* revision);
+ZOVQMI_API int zovQMINASGetDeviceConfigRespGetHDRSCPCustomConfig(const uint8_t* msg, int len, uint8_t* active,
+                                                                 uint32_t* first, uint32_t* second, uint32_t* third);
+ZOVQMI_API int zovQMINASGetDeviceConfigRespGetRoamPreference(const uint8_t* msg, int len, uint8_t* preference);
+ZOVQMI_API int zovQMINASSetDeviceConfigReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASSetDeviceConfigReqAddServiceProgrammingCode(uint8_t* buf, int bufsize, const uint8_t* code);
+ZOVQMI_API int zovQMINASSetDeviceConfigReqAddForceHDRRevision(uint8_t* buf, int bufsize, uint8_t revision);
+ZOVQMI_API int zovQMINASSetDeviceConfigReqAddHDRSCPCustomConfig(uint8_t* buf, int bufsize, uint8_t active,
+                                                                uint32_t first, uint32_t second, uint32_t third);
+ZOVQMI_API int zovQMINASSetDeviceConfigReqAddRoamPreference(uint8_t* buf, int bufsize, uint8_t preference);
+ZOVQMI_API int zovQMINASSetDeviceConfigResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetRFBandInfo 0x0031, GetANAAAStatus 0x0032 */
+ZOVQMI_API int zovQMINASGetRFBandInfoReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetRFBandInfoResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
+                                          NASRFBandRecord* list);
+ZOVQMI_API int zovQMINASGetANAAAStatusReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetANAAAStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status);
+
+/* SetSystemSelectionPreference 0x0033, GetSystemSelectionPreference 0x0034
+ * and the SystemSelectionPreference indication */
+ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceReqAddEmergencyMode(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceReqAddModePreference(uint8_t* buf, int bufsize,
+                                                                         uint16_t preference);
+ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceReqAddBandPreference(uint8_t* buf, int bufsize,
+                                                                         uint64_t preference);
+ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceReqAddCDMAPRLPreference(uint8_t* buf, int bufsize,
+                                                                            uint16_t preference);
+ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceReqAddRoamingPreference(uint8_t* buf, int bufsize,
+                                                                            uint16_t preference);
+ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceRespGetEmergencyMode(const uint8_t* msg, int len, uint8_t* mode);
+ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceRespGetModePreference(const uint8_t* msg, int len,
+                                                                          uint16_t* preference);
+ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceRespGetBandPreference(const uint8_t* msg, int len,
+                                                                          uint64_t* preference);
+ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceRespGetCDMAPRLPreference(const uint8_t* msg, int len,
+                                                                             uint16_t* preference);
+ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceRespGetRoamingPreference(const uint8_t* msg, int len,
+                                                                             uint16_t* preference);
+ZOVQMI_API int zovQMINASSystemSelectionPreferenceIND(const uint8_t* msg, int len);
+
+/* SetDDTMPreference (request written as 0x0033, response 0x0037) and the
+ * DDTM indication 0x0038 */
+ZOVQMI_API int zovQMINASSetDDTMPreferenceReq(uint8_t* buf, int bufsize, uint8_t first, uint16_t second, uint8_t third,
+                                             uint8_t count, const uint16_t* list);
+ZOVQMI_API int zovQMINASSetDDTMPreferenceResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMINASDDTMIND(const uint8_t* msg, int len, uint8_t* first, uint8_t* second, uint16_t* third,
+                                uint8_t* count, uint16_t* list);
 /* ------------------------------------------------------------ end NAS -- */
 
 
