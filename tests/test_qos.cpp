@@ -272,7 +272,7 @@ TEST(QosResponses, ExtendedErrorInfoIsReadFromItemE0) {
 
 const uint8_t* bytesOf(const QoSProfileList& l) { return reinterpret_cast<const uint8_t*>(&l); }
 
-TEST(QosProfiles, ResponseWalksListsSteppingByTheirOwnCounts) {
+TEST(QosProfiles, ResponseWalksListsByTheirOwnCountsAndAnEmptyListConsumesThreeBytes) {
     Bytes lists = cat({{0x03}, le16(0x0101), {0x02}, le16(0x1111), le16(0x2222),  // two profiles
                        le16(0x0202), {0x00},                                      // empty: 3 bytes
                        le16(0x0303), {0x01}, le16(0x3333)});

@@ -167,79 +167,63 @@ int identifierList(uint8_t* buf, int bufsize, uint16_t id, uint8_t count, const 
 
 // ------------------------------------------------------------- parsing --
 
+// Reads value fields back to back from v, each at its own width, then sets
+// the presence byte.
+template <class T>
+T load(Dec& d, size_t off) {
+    if constexpr (sizeof(T) == 1) return d.u8(off);
+    else if constexpr (sizeof(T) == 2) return d.le16(off);
+    else return d.le32(off);
+}
+template <class... T>
+void set(Dec& d, uint8_t* present, size_t v, T*... fields) {
+    ((d.put(fields, load<T>(d, v)), v += sizeof(T)), ...);
+    d.put(present, 1);
+}
+
 // One parameter item of a flow whose value starts at v, copied at the fixed
 // width of its type whatever its length field says.  Unknown types are
 // skipped.
 void param(Dec& d, uint8_t t, size_t v, FlowSpecification* f) {
     switch (t) {
-    case 0x10: d.put(&f->value10, d.u8(v)), d.put(&f->present10, 1); break;
-    case 0x11: d.put(&f->value11, d.u8(v)), d.put(&f->present11, 1); break;
-    case 0x12:
-        d.put(&f->value12First, d.le32(v)), d.put(&f->value12Second, d.le32(v + 4));
-        d.put(&f->present12, 1);
-        break;
-    case 0x13:
-        d.put(&f->value13First, d.le32(v)), d.put(&f->value13Second, d.le32(v + 4));
-        d.put(&f->value13Third, d.le32(v + 8)), d.put(&f->present13, 1);
-        break;
-    case 0x14: d.put(&f->value14, d.le32(v)), d.put(&f->present14, 1); break;
-    case 0x15: d.put(&f->value15, d.le32(v)), d.put(&f->present15, 1); break;
-    case 0x16:
-        d.put(&f->value16First, d.le16(v)), d.put(&f->value16Second, d.le16(v + 2));
-        d.put(&f->present16, 1);
-        break;
-    case 0x17: d.put(&f->value17, d.le32(v)), d.put(&f->present17, 1); break;
-    case 0x18: d.put(&f->value18, d.le32(v)), d.put(&f->present18, 1); break;
-    case 0x19: d.put(&f->value19, d.u8(v)), d.put(&f->present19, 1); break;
-    case 0x1A: d.put(&f->value1A, d.u8(v)), d.put(&f->present1A, 1); break;
-    case 0x1B: d.put(&f->value1B, d.le16(v)), d.put(&f->present1B, 1); break;
-    case 0x1C: d.put(&f->value1C, d.u8(v)), d.put(&f->present1C, 1); break;
-    case 0x1D: d.put(&f->value1D, d.u8(v)), d.put(&f->present1D, 1); break;
-    case 0x1E: d.put(&f->value1E, d.u8(v)), d.put(&f->present1E, 1); break;
+    case 0x10: set(d, &f->present10, v, &f->value10); break;
+    case 0x11: set(d, &f->present11, v, &f->value11); break;
+    case 0x12: set(d, &f->present12, v, &f->value12First, &f->value12Second); break;
+    case 0x13: set(d, &f->present13, v, &f->value13First, &f->value13Second, &f->value13Third); break;
+    case 0x14: set(d, &f->present14, v, &f->value14); break;
+    case 0x15: set(d, &f->present15, v, &f->value15); break;
+    case 0x16: set(d, &f->present16, v, &f->value16First, &f->value16Second); break;
+    case 0x17: set(d, &f->present17, v, &f->value17); break;
+    case 0x18: set(d, &f->present18, v, &f->value18); break;
+    case 0x19: set(d, &f->present19, v, &f->value19); break;
+    case 0x1A: set(d, &f->present1A, v, &f->value1A); break;
+    case 0x1B: set(d, &f->present1B, v, &f->value1B); break;
+    case 0x1C: set(d, &f->present1C, v, &f->value1C); break;
+    case 0x1D: set(d, &f->present1D, v, &f->value1D); break;
+    case 0x1E: set(d, &f->present1E, v, &f->value1E); break;
     default: break;
     }
 }
 
-// The same for a filter (no 0x18, 0x1F or 0x20).
+// The same for a filter (no 0x18, 0x1F or 0x20); 0x16 and 0x17 copy a
+// 16-byte block as it is, then the last byte.
 void param(Dec& d, uint8_t t, size_t v, FilterSpecification* f) {
-    // Two 16-bit words at v into a pair of fields.
-    auto pair16 = [&](uint16_t* a, uint16_t* b, uint8_t* present) {
-        d.put(a, d.le16(v)), d.put(b, d.le16(v + 2)), d.put(present, 1);
-    };
     switch (t) {
-    case 0x10: d.put(&f->value10, d.u8(v)), d.put(&f->present10, 1); break;
-    case 0x11: d.put(&f->value11, d.u8(v)), d.put(&f->present11, 1); break;
-    case 0x12:
-        d.put(&f->value12First, d.le32(v)), d.put(&f->value12Second, d.le32(v + 4));
-        d.put(&f->present12, 1);
-        break;
-    case 0x13:
-        d.put(&f->value13First, d.le32(v)), d.put(&f->value13Second, d.le32(v + 4));
-        d.put(&f->present13, 1);
-        break;
-    case 0x14: d.put(&f->value14, d.u8(v)), d.put(&f->present14, 1); break;
-    case 0x15:
-        d.put(&f->value15Byte0, d.u8(v)), d.put(&f->value15Byte1, d.u8(v + 1));
-        d.put(&f->present15, 1);
-        break;
-    case 0x16:
-        d.copy(f->value16, v, 16), d.put(&f->value16Last, d.u8(v + 16));
-        d.put(&f->present16, 1);
-        break;
-    case 0x17:
-        d.copy(f->value17, v, 16), d.put(&f->value17Last, d.u8(v + 16));
-        d.put(&f->present17, 1);
-        break;
-    case 0x19:
-        d.put(&f->value19Byte0, d.u8(v)), d.put(&f->value19Byte1, d.u8(v + 1));
-        d.put(&f->present19, 1);
-        break;
-    case 0x1A: d.put(&f->value1A, d.le32(v)), d.put(&f->present1A, 1); break;
-    case 0x1B: pair16(&f->value1BFirst, &f->value1BSecond, &f->present1B); break;
-    case 0x1C: pair16(&f->value1CFirst, &f->value1CSecond, &f->present1C); break;
-    case 0x1D: pair16(&f->value1DFirst, &f->value1DSecond, &f->present1D); break;
-    case 0x1E: pair16(&f->value1EFirst, &f->value1ESecond, &f->present1E); break;
-    case 0x21: d.put(&f->value21, d.le32(v)), d.put(&f->present21, 1); break;
+    case 0x10: set(d, &f->present10, v, &f->value10); break;
+    case 0x11: set(d, &f->present11, v, &f->value11); break;
+    case 0x12: set(d, &f->present12, v, &f->value12First, &f->value12Second); break;
+    case 0x13: set(d, &f->present13, v, &f->value13First, &f->value13Second); break;
+    case 0x14: set(d, &f->present14, v, &f->value14); break;
+    case 0x15: set(d, &f->present15, v, &f->value15Byte0, &f->value15Byte1); break;
+    case 0x16: d.copy(f->value16, v, 16), set(d, &f->present16, v + 16, &f->value16Last); break;
+    case 0x17: d.copy(f->value17, v, 16), set(d, &f->present17, v + 16, &f->value17Last); break;
+    case 0x19: set(d, &f->present19, v, &f->value19Byte0, &f->value19Byte1); break;
+    case 0x1A: set(d, &f->present1A, v, &f->value1A); break;
+    case 0x1B: set(d, &f->present1B, v, &f->value1BFirst, &f->value1BSecond); break;
+    case 0x1C: set(d, &f->present1C, v, &f->value1CFirst, &f->value1CSecond); break;
+    case 0x1D: set(d, &f->present1D, v, &f->value1DFirst, &f->value1DSecond); break;
+    case 0x1E: set(d, &f->present1E, v, &f->value1EFirst, &f->value1ESecond); break;
+    case 0x21: set(d, &f->present21, v, &f->value21); break;
     default: break;
     }
 }
