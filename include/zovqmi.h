@@ -592,7 +592,199 @@ ZOVQMI_API int zovQMINASDDTMIND(const uint8_t* msg, int len, uint8_t* first, uin
 
 
 /* ---------------------------------------------------------------- QOS -- */
-/* (QOS declarations) */
+
+/* QOS: one traffic flow of a QoS spec.  Natural alignment (84 bytes); arrays
+ * of it are stepped by its size.  Fields are native values.  `type` is the
+ * type of the item that wraps the flow in its container (0x11 or 0x12);
+ * `index` is set only when reading a QoS-spec error list.  Every parameter
+ * item has a presence byte (nonzero: present) and its value fields, named
+ * after the item's type. */
+typedef struct FlowSpecification {
+    uint8_t type;
+    uint8_t index;
+    uint8_t present10;
+    uint8_t value10;
+    uint8_t present1B;
+    uint16_t value1B;
+    uint8_t present11;
+    uint8_t value11;
+    uint8_t present12;
+    uint32_t value12First;
+    uint32_t value12Second;
+    uint8_t present13;
+    uint32_t value13First;
+    uint32_t value13Second;
+    uint32_t value13Third;
+    uint8_t present14;
+    uint32_t value14;
+    uint8_t present15;
+    uint32_t value15;
+    uint8_t present16;
+    uint16_t value16First;
+    uint16_t value16Second;
+    uint8_t present17;
+    uint32_t value17;
+    uint8_t present18;
+    uint32_t value18;
+    uint8_t present19;
+    uint8_t value19;
+    uint8_t present1A;
+    uint8_t value1A;
+    uint8_t present1C;
+    uint8_t value1C;
+    uint8_t present1D;
+    uint8_t value1D;
+    uint8_t present1E;
+    uint8_t value1E;
+} FlowSpecification;
+
+/* QOS: one packet filter of a QoS spec.  Natural alignment (112 bytes), as
+ * for flows; `type` is 0x13 or 0x14.  A filter has no item 0x18, 0x1F or
+ * 0x20. */
+typedef struct FilterSpecification {
+    uint8_t type;
+    uint8_t index;
+    uint8_t present10;
+    uint8_t value10;
+    uint8_t present11;
+    uint8_t value11;
+    uint8_t present12;
+    uint32_t value12First;
+    uint32_t value12Second;
+    uint8_t present13;
+    uint32_t value13First;
+    uint32_t value13Second;
+    uint8_t present14;
+    uint8_t value14;
+    uint8_t present15;
+    uint8_t value15Byte0;
+    uint8_t value15Byte1;
+    uint8_t present16;
+    uint8_t value16[16];
+    uint8_t value16Last;
+    uint8_t present17;
+    uint8_t value17[16];
+    uint8_t value17Last;
+    uint8_t present19;
+    uint8_t value19Byte0;
+    uint8_t value19Byte1;
+    uint8_t present1A;
+    uint32_t value1A;
+    uint8_t present1B;
+    uint16_t value1BFirst;
+    uint16_t value1BSecond;
+    uint8_t present1C;
+    uint16_t value1CFirst;
+    uint16_t value1CSecond;
+    uint8_t present1D;
+    uint16_t value1DFirst;
+    uint16_t value1DSecond;
+    uint8_t present1E;
+    uint16_t value1EFirst;
+    uint16_t value1ESecond;
+    uint8_t present21;
+    uint32_t value21;
+} FilterSpecification;
+
+#pragma pack(push, 1)
+
+/* QOS: a set of flows and filters in caller-owned arrays.  Packed: the
+ * pointers lie unaligned.  Parsers read the pointers and write the counts. */
+typedef struct QoSSpec {
+    uint8_t flowCount;
+    uint8_t filterCount;
+    FlowSpecification* flows;
+    FilterSpecification* filters;
+} QoSSpec;
+
+/* QOS: item 0x10 of the flow-information list (6 bytes; the identifier is
+ * stored as little-endian bytes). */
+typedef struct QoSFlowState {
+    uint32_t identifier;
+    uint8_t status;
+    uint8_t event;
+} QoSFlowState;
+
+/* QOS: one list of network-supported QoS profiles (7 bytes on 32-bit hosts):
+ * technology (little-endian bytes), profile count and a caller array that
+ * receives the profile values as native words (may be null). */
+typedef struct QoSProfileList {
+    uint16_t technology;
+    uint8_t profileCount;
+    uint16_t* profiles;
+} QoSProfileList;
+
+#pragma pack(pop)
+
+/* Flow and filter specification codec: append one flow or filter to a QoS-spec
+ * record of type 0x10, or read one back from a received item. */
+ZOVQMI_API int fnRequestAddFlowSpecification(QmiTlvRecord* tlv, const FlowSpecification* flow);
+ZOVQMI_API int fnRequestAddFilterSpecification(QmiTlvRecord* tlv, const FilterSpecification* filter);
+ZOVQMI_API int fnResponseParseFlowSpecification(const uint8_t* item, int length, FlowSpecification* flow);
+ZOVQMI_API int fnResponseParseFilterSpecification(const uint8_t* item, int length, FilterSpecification* filter);
+
+ZOVQMI_API int zovQMIQOSResetReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIQOSResetResp(const uint8_t* msg, int len, QmiResult* result);
+
+ZOVQMI_API int zovQMIQOSSetEventReportReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIQOSSetEventReportReqAddGlobalFlowInfoReporting(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMIQOSSetEventReportReqAddNetworkSupportedQoSProfileChange(uint8_t* buf, int bufsize, uint8_t report,
+                                                                            uint16_t technology);
+ZOVQMI_API int zovQMIQOSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIQOSSetEventReportIND(const uint8_t* msg, int len);
+ZOVQMI_API int zovQMIQOSSetEventReportINDGetQoSFlowInfo(const uint8_t* msg, int len, QoSFlowState* state,
+                                                       QoSSpec* spec);
+ZOVQMI_API int zovQMIQOSSetEventReportINDGetNetworkSupportedQoSProfiles(const uint8_t* msg, int len,
+                                                                       QoSProfileList* list);
+
+ZOVQMI_API int zovQMIQOSRequestQoSReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIQOSRequestQoSReqAddQoSSpec(uint8_t* buf, int bufsize, uint8_t index, const QoSSpec* spec);
+ZOVQMI_API int zovQMIQOSRequestQoSReqAddQoSRequestOpcode(uint8_t* buf, int bufsize, uint8_t opcode);
+ZOVQMI_API int zovQMIQOSRequestQoSResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
+                                       uint32_t* identifiers);
+ZOVQMI_API int zovQMIQOSRequestQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* spec);
+
+ZOVQMI_API int zovQMIQOSReleaseQoSReq(uint8_t* buf, int bufsize, uint8_t count, const uint32_t* identifiers);
+ZOVQMI_API int zovQMIQOSReleaseQoSResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIQOSSuspendQoSReq(uint8_t* buf, int bufsize, uint8_t count, const uint32_t* identifiers);
+ZOVQMI_API int zovQMIQOSSuspendQoSResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIQOSResumeQoSReq(uint8_t* buf, int bufsize, uint8_t count, const uint32_t* identifiers);
+ZOVQMI_API int zovQMIQOSResumeQoSResp(const uint8_t* msg, int len, QmiResult* result);
+
+ZOVQMI_API int zovQMIQOSModifyQoSReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIQOSModifyQoSReqAddQoSSpec(uint8_t* buf, int bufsize, uint32_t identifier, uint8_t index,
+                                               const QoSSpec* spec);
+ZOVQMI_API int zovQMIQOSModifyQoSReqAddPrimaryQoSModifyRequest(uint8_t* buf, int bufsize, uint8_t primary);
+ZOVQMI_API int zovQMIQOSModifyQoSResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIQOSModifyQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* spec);
+
+ZOVQMI_API int zovQMIQOSGetGrantedQoSReq(uint8_t* buf, int bufsize, uint32_t identifier);
+ZOVQMI_API int zovQMIQOSGetGrantedQoSReqAddPrimaryGrantedQoSRequest(uint8_t* buf, int bufsize, uint8_t primary);
+ZOVQMI_API int zovQMIQOSGetGrantedQoSResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIQOSGetGrantedQoSRespGetTxQoSGrantedFlow(const uint8_t* msg, int len, FlowSpecification* flow);
+ZOVQMI_API int zovQMIQOSGetGrantedQoSRespGetRxQoSGrantedFlow(const uint8_t* msg, int len, FlowSpecification* flow);
+ZOVQMI_API int zovQMIQOSGetGrantedQoSRespGetExtendedErrorInfo(const uint8_t* msg, int len, uint16_t* error);
+
+ZOVQMI_API int zovQMIQOSGetQoSStatusReq(uint8_t* buf, int bufsize, uint32_t identifier);
+ZOVQMI_API int zovQMIQOSGetQoSStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status);
+ZOVQMI_API int zovQMIQOSStatusIND(const uint8_t* msg, int len, uint32_t* identifier, uint8_t* status,
+                                  uint8_t* event);
+ZOVQMI_API int zovQMIQOSStatusINDGetReasonCode(const uint8_t* msg, int len, uint8_t* reason);
+
+ZOVQMI_API int zovQMIQOSGetQoSNetworkStatusReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIQOSGetQoSNetworkStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status);
+ZOVQMI_API int zovQMIQOSNetworkStatusIND(const uint8_t* msg, int len, uint8_t* status);
+
+ZOVQMI_API int zovQMIQOSGetNWSupportedQoSProfilesReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIQOSGetNWSupportedQoSProfilesReqAddExtendedTechnologyPreference(uint8_t* buf, int bufsize,
+                                                                                   uint16_t preference);
+ZOVQMI_API int zovQMIQOSGetNWSupportedQoSProfilesResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
+                                                      QoSProfileList* lists);
+ZOVQMI_API int zovQMIQOSGetNWSupportedQoSProfilesRespGetExtendedErrorInfo(const uint8_t* msg, int len,
+                                                                         uint16_t* error);
+
+ZOVQMI_API int zovQMIQOSPrimaryQoSEventIND(const uint8_t* msg, int len, uint16_t* event);
+
 /* ------------------------------------------------------------ end QOS -- */
 
 #ifdef __cplusplus
