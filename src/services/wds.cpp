@@ -372,7 +372,7 @@ extern "C" int zovQMIWDSProfileReqAddProfileName(uint8_t* buf, int bufsize, uint
     return add(buf, bufsize, 0x10, wbytes(length, data));
 }
 extern "C" int zovQMIWDSProfileRespGetProfileName(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
-                                       uint8_t* data) {
+                                                  uint8_t* data) {
     return profileGet(msg, len, messageId, kWithRuntime, 0x10, all(length), text(length, data));
 }
 
@@ -388,7 +388,8 @@ extern "C" int zovQMIWDSProfileRespGetPDPType(const uint8_t* msg, int len, uint1
 extern "C" int zovQMIWDSProfileReqAddPDPHeaderCompression(uint8_t* buf, int bufsize, uint8_t value) {
     return add(buf, bufsize, 0x12, w8(value));
 }
-extern "C" int zovQMIWDSProfileRespGetPDPHeaderCompression(const uint8_t* msg, int len, uint16_t messageId, uint8_t* value) {
+extern "C" int zovQMIWDSProfileRespGetPDPHeaderCompression(const uint8_t* msg, int len, uint16_t messageId,
+                                                           uint8_t* value) {
     return profileGet(msg, len, messageId, kWithRuntime, 0x12, all(value), scalar(value));
 }
 
@@ -396,7 +397,8 @@ extern "C" int zovQMIWDSProfileRespGetPDPHeaderCompression(const uint8_t* msg, i
 extern "C" int zovQMIWDSProfileReqAddPDPDataCompression(uint8_t* buf, int bufsize, uint8_t value) {
     return add(buf, bufsize, 0x13, w8(value));
 }
-extern "C" int zovQMIWDSProfileRespGetPDPDataCompression(const uint8_t* msg, int len, uint16_t messageId, uint8_t* value) {
+extern "C" int zovQMIWDSProfileRespGetPDPDataCompression(const uint8_t* msg, int len, uint16_t messageId,
+                                                         uint8_t* value) {
     return profileGet(msg, len, messageId, kWithRuntime, 0x13, all(value), scalar(value));
 }
 
@@ -407,7 +409,7 @@ extern "C" int zovQMIWDSProfileReqAddAPNName(uint8_t* buf, int bufsize, uint16_t
     return add(buf, bufsize, 0x14, wbytes(length, data));
 }
 extern "C" int zovQMIWDSProfileRespGetAPNName(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
-                                       uint8_t* data) {
+                                              uint8_t* data) {
     return profileGet(msg, len, messageId, kWithRuntime, 0x14, all(length), text(length, data));
 }
 
@@ -415,7 +417,8 @@ extern "C" int zovQMIWDSProfileRespGetAPNName(const uint8_t* msg, int len, uint1
 extern "C" int zovQMIWDSProfileReqAddPrimaryDNSIPv4AddressPreference(uint8_t* buf, int bufsize, uint32_t value) {
     return add(buf, bufsize, 0x15, w32(value));
 }
-extern "C" int zovQMIWDSProfileRespGetPrimaryDNSIPv4AddressPreference(const uint8_t* msg, int len, uint16_t messageId, uint32_t* value) {
+extern "C" int zovQMIWDSProfileRespGetPrimaryDNSIPv4AddressPreference(const uint8_t* msg, int len,
+                                                                      uint16_t messageId, uint32_t* value) {
     return profileGet(msg, len, messageId, kWithRuntime, 0x15, all(value), scalar(value));
 }
 
@@ -423,7 +426,8 @@ extern "C" int zovQMIWDSProfileRespGetPrimaryDNSIPv4AddressPreference(const uint
 extern "C" int zovQMIWDSProfileReqAddSecondaryDNSIPv4AddressPreference(uint8_t* buf, int bufsize, uint32_t value) {
     return add(buf, bufsize, 0x16, w32(value));
 }
-extern "C" int zovQMIWDSProfileRespGetSecondaryDNSIPv4AddressPreference(const uint8_t* msg, int len, uint16_t messageId, uint32_t* value) {
+extern "C" int zovQMIWDSProfileRespGetSecondaryDNSIPv4AddressPreference(const uint8_t* msg, int len,
+                                                                        uint16_t messageId, uint32_t* value) {
     return profileGet(msg, len, messageId, kWithRuntime, 0x16, all(value), scalar(value));
 }
 
@@ -431,7 +435,8 @@ extern "C" int zovQMIWDSProfileRespGetSecondaryDNSIPv4AddressPreference(const ui
 extern "C" int zovQMIWDSProfileReqAddUMTSRequestedQoS(uint8_t* buf, int bufsize, const uint8_t* record) {
     return add(buf, bufsize, 0x17, wrecord(record, sizeof(WDSUMTSQoS)));
 }
-extern "C" int zovQMIWDSProfileRespGetUMTSRequestedQoS(const uint8_t* msg, int len, uint16_t messageId, uint8_t* record) {
+extern "C" int zovQMIWDSProfileRespGetUMTSRequestedQoS(const uint8_t* msg, int len, uint16_t messageId,
+                                                       uint8_t* record) {
     return profileGet(msg, len, messageId, kWithRuntime, 0x17, all(record), raw(record, sizeof(WDSUMTSQoS)));
 }
 
@@ -447,7 +452,8 @@ extern "C" int zovQMIWDSProfileRespGetUMTSMinimumQoS(const uint8_t* msg, int len
 extern "C" int zovQMIWDSProfileReqAddGPRSRequestedQoS(uint8_t* buf, int bufsize, const uint8_t* record) {
     return add(buf, bufsize, 0x19, wrecord(record, sizeof(WDSGPRSQoS)));
 }
-extern "C" int zovQMIWDSProfileRespGetGPRSRequestedQoS(const uint8_t* msg, int len, uint16_t messageId, uint8_t* record) {
+extern "C" int zovQMIWDSProfileRespGetGPRSRequestedQoS(const uint8_t* msg, int len, uint16_t messageId,
+                                                       uint8_t* record) {
     return profileGet(msg, len, messageId, kWithRuntime, 0x19, all(record), raw(record, sizeof(WDSGPRSQoS)));
 }
 
@@ -464,7 +470,7 @@ extern "C" int zovQMIWDSProfileReqAddUsername(uint8_t* buf, int bufsize, uint16_
     return add(buf, bufsize, 0x1B, wbytes(length, data));
 }
 extern "C" int zovQMIWDSProfileRespGetUsername(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
-                                       uint8_t* data) {
+                                               uint8_t* data) {
     return profileGet(msg, len, messageId, kWithRuntime, 0x1B, all(length), text(length, data));
 }
 
@@ -473,7 +479,7 @@ extern "C" int zovQMIWDSProfileReqAddPassword(uint8_t* buf, int bufsize, uint16_
     return add(buf, bufsize, 0x1C, wbytes(length, data));
 }
 extern "C" int zovQMIWDSProfileRespGetPassword(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
-                                       uint8_t* data) {
+                                               uint8_t* data) {
     return profileGet(msg, len, messageId, kWithRuntime, 0x1C, all(length), text(length, data));
 }
 
@@ -481,7 +487,8 @@ extern "C" int zovQMIWDSProfileRespGetPassword(const uint8_t* msg, int len, uint
 extern "C" int zovQMIWDSProfileReqAddAuthenticationPreference(uint8_t* buf, int bufsize, uint8_t value) {
     return add(buf, bufsize, 0x1D, w8(value));
 }
-extern "C" int zovQMIWDSProfileRespGetAuthenticationPreference(const uint8_t* msg, int len, uint16_t messageId, uint8_t* value) {
+extern "C" int zovQMIWDSProfileRespGetAuthenticationPreference(const uint8_t* msg, int len, uint16_t messageId,
+                                                               uint8_t* value) {
     return profileGet(msg, len, messageId, kWithRuntime, 0x1D, all(value), scalar(value));
 }
 
@@ -489,7 +496,8 @@ extern "C" int zovQMIWDSProfileRespGetAuthenticationPreference(const uint8_t* ms
 extern "C" int zovQMIWDSProfileReqAddIPv4AddressPreference(uint8_t* buf, int bufsize, uint32_t value) {
     return add(buf, bufsize, 0x1E, w32(value));
 }
-extern "C" int zovQMIWDSProfileRespGetIPv4AddressPreference(const uint8_t* msg, int len, uint16_t messageId, uint32_t* value) {
+extern "C" int zovQMIWDSProfileRespGetIPv4AddressPreference(const uint8_t* msg, int len, uint16_t messageId,
+                                                            uint32_t* value) {
     return profileGet(msg, len, messageId, kWithRuntime, 0x1E, all(value), scalar(value));
 }
 
@@ -497,7 +505,8 @@ extern "C" int zovQMIWDSProfileRespGetIPv4AddressPreference(const uint8_t* msg, 
 extern "C" int zovQMIWDSProfileReqAddPCSCFAddressUsingPCOFlag(uint8_t* buf, int bufsize, uint8_t value) {
     return add(buf, bufsize, 0x1F, w8(value));
 }
-extern "C" int zovQMIWDSProfileRespGetPCSCFAddressUsingPCOFlag(const uint8_t* msg, int len, uint16_t messageId, uint8_t* value) {
+extern "C" int zovQMIWDSProfileRespGetPCSCFAddressUsingPCOFlag(const uint8_t* msg, int len, uint16_t messageId,
+                                                               uint8_t* value) {
     return profileGet(msg, len, messageId, kSettingsOnly, 0x1F, all(value), scalar(value));
 }
 
@@ -505,7 +514,8 @@ extern "C" int zovQMIWDSProfileRespGetPCSCFAddressUsingPCOFlag(const uint8_t* ms
 extern "C" int zovQMIWDSProfileReqAddPDPAccessControlFlag(uint8_t* buf, int bufsize, uint8_t value) {
     return add(buf, bufsize, 0x20, w8(value));
 }
-extern "C" int zovQMIWDSProfileRespGetPDPAccessControlFlag(const uint8_t* msg, int len, uint16_t messageId, uint8_t* value) {
+extern "C" int zovQMIWDSProfileRespGetPDPAccessControlFlag(const uint8_t* msg, int len, uint16_t messageId,
+                                                           uint8_t* value) {
     return profileGet(msg, len, messageId, kSettingsOnly, 0x20, all(value), scalar(value));
 }
 
@@ -513,7 +523,8 @@ extern "C" int zovQMIWDSProfileRespGetPDPAccessControlFlag(const uint8_t* msg, i
 extern "C" int zovQMIWDSProfileReqAddPCSCFAddressUsingDHCPFlag(uint8_t* buf, int bufsize, uint8_t value) {
     return add(buf, bufsize, 0x21, w8(value));
 }
-extern "C" int zovQMIWDSProfileRespGetPCSCFAddressUsingDHCPFlag(const uint8_t* msg, int len, uint16_t messageId, uint8_t* value) {
+extern "C" int zovQMIWDSProfileRespGetPCSCFAddressUsingDHCPFlag(const uint8_t* msg, int len, uint16_t messageId,
+                                                                uint8_t* value) {
     return profileGet(msg, len, messageId, kSettingsOnly, 0x21, all(value), scalar(value));
 }
 
@@ -545,7 +556,8 @@ extern "C" int zovQMIWDSProfileRespGetTFTFilterID2(const uint8_t* msg, int len, 
 extern "C" int zovQMIWDSProfileReqAddPDPContextNumber(uint8_t* buf, int bufsize, uint8_t value) {
     return add(buf, bufsize, 0x25, w8(value));
 }
-extern "C" int zovQMIWDSProfileRespGetPDPContextNumber(const uint8_t* msg, int len, uint16_t messageId, uint8_t* value) {
+extern "C" int zovQMIWDSProfileRespGetPDPContextNumber(const uint8_t* msg, int len, uint16_t messageId,
+                                                       uint8_t* value) {
     return profileGet(msg, len, messageId, kSettingsOnly, 0x25, all(value), scalar(value));
 }
 
@@ -553,7 +565,8 @@ extern "C" int zovQMIWDSProfileRespGetPDPContextNumber(const uint8_t* msg, int l
 extern "C" int zovQMIWDSProfileReqAddPDPContextSecondaryFlag(uint8_t* buf, int bufsize, uint8_t value) {
     return add(buf, bufsize, 0x26, w8(value));
 }
-extern "C" int zovQMIWDSProfileRespGetPDPContextSecondaryFlag(const uint8_t* msg, int len, uint16_t messageId, uint8_t* value) {
+extern "C" int zovQMIWDSProfileRespGetPDPContextSecondaryFlag(const uint8_t* msg, int len, uint16_t messageId,
+                                                              uint8_t* value) {
     return profileGet(msg, len, messageId, kSettingsOnly, 0x26, all(value), scalar(value));
 }
 
@@ -561,7 +574,8 @@ extern "C" int zovQMIWDSProfileRespGetPDPContextSecondaryFlag(const uint8_t* msg
 extern "C" int zovQMIWDSProfileReqAddPDPContextPrimaryID(uint8_t* buf, int bufsize, uint8_t value) {
     return add(buf, bufsize, 0x27, w8(value));
 }
-extern "C" int zovQMIWDSProfileRespGetPDPContextPrimaryID(const uint8_t* msg, int len, uint16_t messageId, uint8_t* value) {
+extern "C" int zovQMIWDSProfileRespGetPDPContextPrimaryID(const uint8_t* msg, int len, uint16_t messageId,
+                                                          uint8_t* value) {
     return profileGet(msg, len, messageId, kSettingsOnly, 0x27, all(value), scalar(value));
 }
 
@@ -569,7 +583,8 @@ extern "C" int zovQMIWDSProfileRespGetPDPContextPrimaryID(const uint8_t* msg, in
 extern "C" int zovQMIWDSProfileReqAddPDPContextIPv6Address(uint8_t* buf, int bufsize, const uint8_t* address) {
     return add(buf, bufsize, 0x28, wrecord(address, kIPv6Size));
 }
-extern "C" int zovQMIWDSProfileRespGetPDPContextIPv6Address(const uint8_t* msg, int len, uint16_t messageId, uint8_t* address) {
+extern "C" int zovQMIWDSProfileRespGetPDPContextIPv6Address(const uint8_t* msg, int len, uint16_t messageId,
+                                                            uint8_t* address) {
     return profileGet(msg, len, messageId, kSettingsOnly, 0x28, all(address), raw(address, kIPv6Size));
 }
 
@@ -577,7 +592,8 @@ extern "C" int zovQMIWDSProfileRespGetPDPContextIPv6Address(const uint8_t* msg, 
 extern "C" int zovQMIWDSProfileReqAddPrimaryIPv6DNSAddress(uint8_t* buf, int bufsize, const uint8_t* address) {
     return add(buf, bufsize, 0x2B, wrecord(address, kIPv6Size));
 }
-extern "C" int zovQMIWDSProfileRespGetPrimaryIPv6DNSAddress(const uint8_t* msg, int len, uint16_t messageId, uint8_t* address) {
+extern "C" int zovQMIWDSProfileRespGetPrimaryIPv6DNSAddress(const uint8_t* msg, int len, uint16_t messageId,
+                                                            uint8_t* address) {
     return profileGet(msg, len, messageId, kSettingsOnly, 0x2B, all(address), raw(address, kIPv6Size));
 }
 
@@ -585,7 +601,8 @@ extern "C" int zovQMIWDSProfileRespGetPrimaryIPv6DNSAddress(const uint8_t* msg, 
 extern "C" int zovQMIWDSProfileReqAddSecondaryIPv6DNSAddress(uint8_t* buf, int bufsize, const uint8_t* address) {
     return add(buf, bufsize, 0x2C, wrecord(address, kIPv6Size));
 }
-extern "C" int zovQMIWDSProfileRespGetSecondaryIPv6DNSAddress(const uint8_t* msg, int len, uint16_t messageId, uint8_t* address) {
+extern "C" int zovQMIWDSProfileRespGetSecondaryIPv6DNSAddress(const uint8_t* msg, int len, uint16_t messageId,
+                                                              uint8_t* address) {
     return profileGet(msg, len, messageId, kSettingsOnly, 0x2C, all(address), raw(address, kIPv6Size));
 }
 
@@ -593,7 +610,8 @@ extern "C" int zovQMIWDSProfileRespGetSecondaryIPv6DNSAddress(const uint8_t* msg
 extern "C" int zovQMIWDSProfileReqAddIPv4AddressAlloc(uint8_t* buf, int bufsize, uint8_t value) {
     return add(buf, bufsize, 0x2D, w8(value));
 }
-extern "C" int zovQMIWDSProfileRespGetIPv4AddressAlloc(const uint8_t* msg, int len, uint16_t messageId, uint8_t* value) {
+extern "C" int zovQMIWDSProfileRespGetIPv4AddressAlloc(const uint8_t* msg, int len, uint16_t messageId,
+                                                       uint8_t* value) {
     return profileGet(msg, len, messageId, kSettingsOnly, 0x2D, all(value), scalar(value));
 }
 
@@ -601,7 +619,8 @@ extern "C" int zovQMIWDSProfileRespGetIPv4AddressAlloc(const uint8_t* msg, int l
 extern "C" int zovQMIWDSProfileReqAddLTERequestedQoS(uint8_t* buf, int bufsize, const uint8_t* record) {
     return add(buf, bufsize, 0x2E, wrecord(record, sizeof(WDSLTEQoS)));
 }
-extern "C" int zovQMIWDSProfileRespGetLTERequestedQoS(const uint8_t* msg, int len, uint16_t messageId, uint8_t* record) {
+extern "C" int zovQMIWDSProfileRespGetLTERequestedQoS(const uint8_t* msg, int len, uint16_t messageId,
+                                                      uint8_t* record) {
     return profileGet(msg, len, messageId, kSettingsOnly, 0x2E, all(record), raw(record, sizeof(WDSLTEQoS)));
 }
 
