@@ -398,4 +398,482 @@ TEST(WdsRequests, ProfileAPNNameRefusesLengthWithNullDataButAppendsAnEmptyName) 
     EXPECT_EQ(head(buf, 15), cat({reqHeader(0x0027, 7), tlv(0x01, {0}), tlv(0x14, {}), {0xEE}}));
 }
 
+// ----------------------------------------------------------- responses --
+
+// A response that carries only the result item.
+struct ResultOnly {
+    const char* name;
+    int (*parse)(const uint8_t*, int, QmiResult*);
+    uint16_t id;
+};
+
+TEST(WdsResponses, EveryResultOnlyResponseStoresTheResultAndReturnsTheAreaLength) {
+    const ResultOnly parsers[] = {
+        {"Reset", zovQMIWDSResetResp, 0x0000},
+        {"SetEventReport", zovQMIWDSSetEventReportResp, 0x0001},
+        {"Abort", zovQMIWDSAbortResp, 0x0002},
+        {"StopNetworkInterface", zovQMIWDSStopNetworkInterfaceResp, 0x0021},
+        {"GetPktStatistics", zovQMIWDSGetPktStatisticsResp, 0x0024},
+        {"GoDormant", zovQMIWDSGoDormantResp, 0x0025},
+        {"GoActive", zovQMIWDSGoActiveResp, 0x0026},
+        {"ModifyProfileSettings", zovQMIWDSModifyProfileSettingsResp, 0x0028},
+        {"DeleteProfile", zovQMIWDSDeleteProfileResp, 0x0029},
+        {"GetProfileSettings", zovQMIWDSGetProfileSettingsResp, 0x002B},
+        {"GetDefaultSettings", zovQMIWDSGetDefaultSettingsResp, 0x002C},
+        {"GetRuntimeSettings", zovQMIWDSGetRuntimeSettingsResp, 0x002D},
+        {"SetMIPMode", zovQMIWDSSetMIPModeResp, 0x002E},
+        {"SetDefaultProfileNum", zovQMIWDSSetDefaultProfileNumResp, 0x004A},
+        {"SetClientIPFamilyPref", zovQMIWDSSetClientIPFamilyPrefResp, 0x004D},
+    };
+    for (const ResultOnly& p : parsers) {
+        SCOPED_TRACE(p.name);
+        Bytes msg = svcMessage(p.id, {result(1, 0x1A), tlv(0x10, {0x01, 0x02})});
+        QmiResult r = untouchedResult();
+        EXPECT_EQ(p.parse(msg.data(), L(msg), &r), 12);
+        EXPECT_EQ(res(r), (Res{1, 0x1A}));
+        EXPECT_EQ(p.parse(nullptr, L(msg), &r), -1);
+        EXPECT_EQ(p.parse(msg.data(), L(msg), nullptr), -1);
+        QmiResult untouched = untouchedResult();
+        Bytes other = svcMessage(uint16_t(p.id + 0x0100), {result()});
+        EXPECT_EQ(p.parse(other.data(), L(other), &untouched), -2);
+        Bytes noResult = svcMessage(p.id, {tlv(0x10, {0x01})});
+        EXPECT_EQ(p.parse(noResult.data(), L(noResult), &untouched), -3);
+        EXPECT_EQ(res(untouched), res(untouchedResult()));
+        Bytes cut = cutShort(p.id, 0x02, 4, 2, false);
+        EXPECT_EQ(p.parse(cut.data(), L(cut), &untouched), ZOVQMI_ERR_MALFORMED);
+        EXPECT_EQ(res(untouched), res(untouchedResult()));
+    }
+}
+
+// The message walk visits nothing in a buffer of 7 bytes or less, and an
+// unvisited walk counts as finding id 0: Reset then finds no result item.
+TEST(WdsResponses, ResetTakesAShortBufferForItsOwnMessageAndReportsNoResult) {
+    QmiResult r = untouchedResult();
+    Bytes seven = {0x02, 0x34, 0x12, 0x00, 0x00, 0x00, 0x00};
+    EXPECT_EQ(zovQMIWDSResetResp(seven.data(), 7, &r), -3);
+    EXPECT_EQ(zovQMIWDSResetResp(seven.data(), 3, &r), -3);
+    Bytes other = svcMessage(0x0001, {result()});
+    EXPECT_EQ(zovQMIWDSResetResp(other.data(), L(other), &r), -2);
+    EXPECT_EQ(res(r), res(untouchedResult()));
+    // Any other response on the same short buffer is absent.
+    EXPECT_EQ(zovQMIWDSGoActiveResp(seven.data(), 7, &r), -2);
+}
+
+// Responses with a mandatory item 0x01, called with dummy outputs.
+struct WithMandatory {
+    const char* name;
+    int (*parse)(const uint8_t*, int, QmiResult*);
+    uint16_t id;
+};
+
+TEST(WdsResponses, EveryResponseWithAMandatoryItemReturnsMinusFourAfterStoringTheResult) {
+    const WithMandatory parsers[] = {
+        {"StartNetworkInterface",
+         [](const uint8_t* m, int n, QmiResult* r) {
+             uint32_t v;
+             return zovQMIWDSStartNetworkInterfaceResp(m, n, r, &v);
+         },
+         0x0020},
+        {"GetPktSrvcStatus",
+         [](const uint8_t* m, int n, QmiResult* r) {
+             uint8_t v;
+             return zovQMIWDSGetPktSrvcStatusResp(m, n, r, &v);
+         },
+         0x0022},
+        {"GetCurrentChannelRate",
+         [](const uint8_t* m, int n, QmiResult* r) {
+             uint8_t v[16];
+             return zovQMIWDSGetCurrentChannelRateResp(m, n, r, v);
+         },
+         0x0023},
+        {"CreateProfile",
+         [](const uint8_t* m, int n, QmiResult* r) {
+             uint8_t a, b;
+             return zovQMIWDSCreateProfileResp(m, n, r, &a, &b);
+         },
+         0x0027},
+        {"GetProfileList",
+         [](const uint8_t* m, int n, QmiResult* r) {
+             uint8_t c;
+             return zovQMIWDSGetProfileListResp(m, n, r, &c, nullptr);
+         },
+         0x002A},
+        {"GetMIPMode",
+         [](const uint8_t* m, int n, QmiResult* r) {
+             uint8_t v;
+             return zovQMIWDSGetMIPModeResp(m, n, r, &v);
+         },
+         0x002F},
+        {"GetDormancyStatus",
+         [](const uint8_t* m, int n, QmiResult* r) {
+             uint8_t v;
+             return zovQMIWDSGetDormancyStatusResp(m, n, r, &v);
+         },
+         0x0030},
+        {"GetCallDuration",
+         [](const uint8_t* m, int n, QmiResult* r) {
+             uint64_t v;
+             return zovQMIWDSGetCallDurationResp(m, n, r, &v);
+         },
+         0x0035},
+        {"GetCurrentDataBearerTechnology",
+         [](const uint8_t* m, int n, QmiResult* r) {
+             uint8_t a;
+             uint32_t b, c;
+             return zovQMIWDSGetCurrentDataBearerTechnologyResp(m, n, r, &a, &b, &c);
+         },
+         0x0044},
+        {"GetDefaultProfileNum",
+         [](const uint8_t* m, int n, QmiResult* r) {
+             uint8_t v;
+             return zovQMIWDSGetDefaultProfileNumResp(m, n, r, &v);
+         },
+         0x0049},
+    };
+    for (const WithMandatory& p : parsers) {
+        SCOPED_TRACE(p.name);
+        QmiResult r = untouchedResult();
+        Bytes noItem = svcMessage(p.id, {result(1, 0x0E)});
+        EXPECT_EQ(p.parse(noItem.data(), L(noItem), &r), -4);
+        EXPECT_EQ(res(r), (Res{1, 0x0E}));
+        r = untouchedResult();
+        Bytes noResult = svcMessage(p.id, {tlv(0x01, fill(24, 0))});
+        EXPECT_EQ(p.parse(noResult.data(), L(noResult), &r), -3);
+        Bytes other = svcMessage(uint16_t(p.id + 1), {result(), tlv(0x01, fill(24, 0))});
+        EXPECT_EQ(p.parse(other.data(), L(other), &r), -2);
+        EXPECT_EQ(res(r), res(untouchedResult()));
+        EXPECT_EQ(p.parse(nullptr, L(other), &r), -1);
+        EXPECT_EQ(p.parse(other.data(), L(other), nullptr), -1);
+        Bytes full = svcMessage(p.id, {result(), tlv(0x01, fill(24, 0))});
+        EXPECT_EQ(p.parse(full.data(), L(full), &r), 7 + 27);
+    }
+}
+
+TEST(WdsResponses, StartNetworkInterfaceYieldsTheHandle) {
+    Bytes msg = svcMessage(0x0020, {result(), tlv(0x01, le32(0x87654321))});
+    QmiResult r;
+    uint32_t handle = 0;
+    EXPECT_EQ(zovQMIWDSStartNetworkInterfaceResp(msg.data(), L(msg), &r, &handle), 14);
+    EXPECT_EQ(handle, 0x87654321u);
+    EXPECT_EQ(res(r), (Res{0, 0}));
+    EXPECT_EQ(zovQMIWDSStartNetworkInterfaceResp(msg.data(), L(msg), &r, nullptr), -1);
+}
+
+TEST(WdsResponses, StartNetworkInterfaceOnAStopResponseIsAbsent) {
+    Bytes msg = svcMessage(0x0021, {result(), tlv(0x01, le32(1))});
+    QmiResult r = untouchedResult();
+    uint32_t handle = 0xEEEEEEEE;
+    EXPECT_EQ(zovQMIWDSStartNetworkInterfaceResp(msg.data(), L(msg), &r, &handle), -2);
+    EXPECT_EQ(handle, 0xEEEEEEEEu);
+    EXPECT_EQ(res(r), res(untouchedResult()));
+}
+
+TEST(WdsResponses, StartNetworkInterfaceWithoutHandleIsMinusFourWithTheResultStored) {
+    Bytes msg = svcMessage(0x0020, {result(1, 0x0E), tlv(0x10, le16(2))});
+    QmiResult r = untouchedResult();
+    uint32_t handle = 0xEEEEEEEE;
+    EXPECT_EQ(zovQMIWDSStartNetworkInterfaceResp(msg.data(), L(msg), &r, &handle), -4);
+    EXPECT_EQ(res(r), (Res{1, 0x0E}));
+    EXPECT_EQ(handle, 0xEEEEEEEEu);
+}
+
+TEST(WdsResponses, FailedStartNetworkInterfaceStillReturnsItsAreaLength) {
+    Bytes msg = svcMessage(0x0020, {result(1, 0x0E), tlv(0x01, le32(0)), tlv(0x10, le16(0x0B))});
+    QmiResult r;
+    uint32_t handle = 7;
+    EXPECT_EQ(zovQMIWDSStartNetworkInterfaceResp(msg.data(), L(msg), &r, &handle), 19);
+    EXPECT_EQ(res(r), (Res{1, 0x0E}));
+    EXPECT_EQ(handle, 0u);
+    uint16_t reason = 0;
+    EXPECT_EQ(zovQMIWDSStartNetworkInterfaceRespGetCallEndReason(msg.data(), L(msg), &reason), 2);
+    EXPECT_EQ(reason, 0x0B);
+}
+
+TEST(WdsResponses, HandleCutShortByTheBufferEndIsMalformedAndNotStored) {
+    Bytes msg = cutShort(0x0020, 0x01, 4, 3);
+    QmiResult r;
+    uint32_t handle = 0xEEEEEEEE;
+    EXPECT_EQ(zovQMIWDSStartNetworkInterfaceResp(msg.data(), L(msg), &r, &handle), ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(handle, 0xEEEEEEEEu);
+}
+
+TEST(WdsResponses, GetPktSrvcStatusYieldsTheStatus) {
+    Bytes msg = svcMessage(0x0022, {result(), tlv(0x01, {0x02})});
+    QmiResult r;
+    uint8_t status = 0;
+    EXPECT_EQ(zovQMIWDSGetPktSrvcStatusResp(msg.data(), L(msg), &r, &status), 11);
+    EXPECT_EQ(status, 2);
+    EXPECT_EQ(zovQMIWDSGetPktSrvcStatusResp(msg.data(), L(msg), &r, nullptr), -1);
+}
+
+TEST(WdsResponses, GetCurrentChannelRateCopiesFourLittleEndianWords) {
+    Bytes rates = cat({le32(0x11223344), le32(0x55667788), le32(3100000), le32(14400000)});
+    Bytes msg = svcMessage(0x0023, {result(), tlv(0x01, rates)});
+    QmiResult r;
+    Bytes out = buffer(17);
+    EXPECT_EQ(zovQMIWDSGetCurrentChannelRateResp(msg.data(), L(msg), &r, out.data()), 26);
+    EXPECT_EQ(out, cat({rates, {0xEE}}));
+    WDSChannelRate rec;
+    EXPECT_EQ(zovQMIWDSGetCurrentChannelRateResp(msg.data(), L(msg), &r, reinterpret_cast<uint8_t*>(&rec)), 26);
+    EXPECT_EQ(rd32(&rec.rates[0]), 0x11223344u);
+    EXPECT_EQ(rd32(&rec.rates[3]), 14400000u);
+    EXPECT_EQ(zovQMIWDSGetCurrentChannelRateResp(msg.data(), L(msg), &r, nullptr), -1);
+    Bytes cut = cutShort(0x0023, 0x01, 16, 15);
+    Bytes untouched = buffer(17);
+    EXPECT_EQ(zovQMIWDSGetCurrentChannelRateResp(cut.data(), L(cut), &r, untouched.data()), ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(untouched, buffer(17));
+}
+
+TEST(WdsResponses, CreateProfileYieldsTypeAndIndex) {
+    Bytes msg = svcMessage(0x0027, {result(), tlv(0x01, {0x01, 0x09})});
+    QmiResult r;
+    uint8_t type = 0, index = 0;
+    EXPECT_EQ(zovQMIWDSCreateProfileResp(msg.data(), L(msg), &r, &type, &index), 12);
+    EXPECT_EQ(type, 1);
+    EXPECT_EQ(index, 9);
+    EXPECT_EQ(zovQMIWDSCreateProfileResp(msg.data(), L(msg), &r, nullptr, &index), -1);
+    EXPECT_EQ(zovQMIWDSCreateProfileResp(msg.data(), L(msg), &r, &type, nullptr), -1);
+}
+
+TEST(WdsResponses, MIPModeDormancyAndDefaultProfileYieldTheirByte) {
+    QmiResult r;
+    uint8_t v = 0;
+    Bytes mip = svcMessage(0x002F, {result(), tlv(0x01, {0x02})});
+    EXPECT_EQ(zovQMIWDSGetMIPModeResp(mip.data(), L(mip), &r, &v), 11);
+    EXPECT_EQ(v, 2);
+    EXPECT_EQ(zovQMIWDSGetMIPModeResp(mip.data(), L(mip), &r, nullptr), -1);
+    Bytes dormancy = svcMessage(0x0030, {result(), tlv(0x01, {0x01})});
+    EXPECT_EQ(zovQMIWDSGetDormancyStatusResp(dormancy.data(), L(dormancy), &r, &v), 11);
+    EXPECT_EQ(v, 1);
+    EXPECT_EQ(zovQMIWDSGetDormancyStatusResp(dormancy.data(), L(dormancy), &r, nullptr), -1);
+    Bytes profile = svcMessage(0x0049, {result(), tlv(0x01, {0x05})});
+    EXPECT_EQ(zovQMIWDSGetDefaultProfileNumResp(profile.data(), L(profile), &r, &v), 11);
+    EXPECT_EQ(v, 5);
+    EXPECT_EQ(zovQMIWDSGetDefaultProfileNumResp(profile.data(), L(profile), &r, nullptr), -1);
+}
+
+TEST(WdsResponses, GetCallDurationReadsSixtyFourBitsLowHalfFirst) {
+    Bytes msg = svcMessage(0x0035, {result(), tlv(0x01, le64(0x0000000100000002ull))});
+    QmiResult r;
+    uint64_t duration = 0;
+    EXPECT_EQ(zovQMIWDSGetCallDurationResp(msg.data(), L(msg), &r, &duration), 18);
+    EXPECT_EQ(duration, 0x0000000100000002ull);
+    EXPECT_EQ(zovQMIWDSGetCallDurationResp(msg.data(), L(msg), &r, nullptr), -1);
+}
+
+TEST(WdsResponses, GetCallDurationWithoutItsDurationIsMinusFourWithTheResultStored) {
+    Bytes msg = svcMessage(0x0035, {result(1, 0x0F), tlv(0x10, le64(5))});
+    QmiResult r = untouchedResult();
+    uint64_t duration = 0xEEEEEEEEEEEEEEEEull;
+    EXPECT_EQ(zovQMIWDSGetCallDurationResp(msg.data(), L(msg), &r, &duration), -4);
+    EXPECT_EQ(res(r), (Res{1, 0x0F}));
+    EXPECT_EQ(duration, 0xEEEEEEEEEEEEEEEEull);
+}
+
+TEST(WdsResponses, DataBearerRecordIsAByteThenTwoWords) {
+    Bytes value = cat({{0x05}, le32(0x80000000), le32(0x00000104)});
+    QmiResult r;
+    uint8_t tech = 0;
+    uint32_t first = 0, second = 0;
+    Bytes msg = svcMessage(0x0044, {result(), tlv(0x01, value)});
+    EXPECT_EQ(zovQMIWDSGetCurrentDataBearerTechnologyResp(msg.data(), L(msg), &r, &tech, &first, &second), 19);
+    EXPECT_EQ(tech, 5);
+    EXPECT_EQ(first, 0x80000000u);
+    EXPECT_EQ(second, 0x104u);
+    EXPECT_EQ(zovQMIWDSGetCurrentDataBearerTechnologyResp(msg.data(), L(msg), &r, nullptr, &first, &second), -1);
+    EXPECT_EQ(zovQMIWDSGetCurrentDataBearerTechnologyResp(msg.data(), L(msg), &r, &tech, nullptr, &second), -1);
+    EXPECT_EQ(zovQMIWDSGetCurrentDataBearerTechnologyResp(msg.data(), L(msg), &r, &tech, &first, nullptr), -1);
+
+    Bytes ind = svcMessage(0x0001, {tlv(0x1D, value)}, 0, 0x04);
+    tech = 0;
+    first = second = 0;
+    EXPECT_EQ(zovQMIWDSEventReportINDGetCurrentDataBearerTechnology(ind.data(), L(ind), &tech, &first, &second), 9);
+    EXPECT_EQ(tech, 5);
+    EXPECT_EQ(first, 0x80000000u);
+    EXPECT_EQ(second, 0x104u);
+    EXPECT_EQ(zovQMIWDSEventReportINDGetCurrentDataBearerTechnology(ind.data(), L(ind), &tech, &first, nullptr), -1);
+    Bytes absent = svcMessage(0x0001, {tlv(0x17, {1})}, 0, 0x04);
+    EXPECT_EQ(zovQMIWDSEventReportINDGetCurrentDataBearerTechnology(absent.data(), L(absent), &tech, &first, &second),
+              -3);
+    Bytes cut = cutShort(0x0001, 0x1D, 9, 8, false);
+    tech = 0xEE;
+    EXPECT_EQ(zovQMIWDSEventReportINDGetCurrentDataBearerTechnology(cut.data(), L(cut), &tech, &first, &second),
+              ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(tech, 0xEE);
+}
+
+// ---------------------------------------------------- optional getters --
+
+// A scalar getter: message id, item type and the width of its output.
+template <class T>
+struct Getter {
+    const char* name;
+    int (*get)(const uint8_t*, int, T*);
+    uint16_t id;
+    uint8_t type;
+};
+
+template <class T, size_t N>
+void checkGetters(const Getter<T> (&getters)[N]) {
+    const T expected = patternValue<T>();
+    const T guard = T(0xEEEEEEEEEEEEEEEEull);
+    for (const Getter<T>& g : getters) {
+        SCOPED_TRACE(g.name);
+        Bytes msg = svcMessage(g.id, {result(), tlv(0x01, {0}), tlv(g.type, pattern(sizeof(T))), tlv(0x7F, {1})});
+        T out = 0;
+        EXPECT_EQ(g.get(msg.data(), L(msg), &out), int(sizeof(T)));
+        EXPECT_EQ(out, expected);
+        EXPECT_EQ(g.get(msg.data(), L(msg), nullptr), -1);
+        EXPECT_EQ(g.get(nullptr, L(msg), &out), -1);
+        out = guard;
+        Bytes absent = svcMessage(g.id, {result(), tlv(0x01, {0}), tlv(uint8_t(g.type ^ 0x40), pattern(8))});
+        EXPECT_EQ(g.get(absent.data(), L(absent), &out), -3);
+        Bytes other = svcMessage(uint16_t(g.id + 0x0100), {tlv(g.type, pattern(sizeof(T)))});
+        EXPECT_EQ(g.get(other.data(), L(other), &out), -2);
+        Bytes cut = cutShort(g.id, g.type, uint16_t(sizeof(T)), sizeof(T) - 1);
+        EXPECT_EQ(g.get(cut.data(), L(cut), &out), ZOVQMI_ERR_MALFORMED);
+        EXPECT_EQ(out, guard);
+    }
+}
+
+TEST(WdsGetters, EveryByteGetterReadsItsItem) {
+    const Getter<uint8_t> getters[] = {
+        {"EventReport DataBearerTechnology", zovQMIWDSEventReportINDGetDataBearerTechnology, 0x0001, 0x17},
+        {"EventReport DormancyStatus", zovQMIWDSEventReportINDGetDormancyStatus, 0x0001, 0x18},
+        {"PktSrvcStatus IPFamily", zovQMIWDSPktSrvcStatusINDGetIPFamily, 0x0022, 0x12},
+        {"Runtime PCSCFAddressUsingPCOFlag", zovQMIWDSGetRuntimeSettingsRespGetPCSCFAddressUsingPCOFlag, 0x002D, 0x22},
+        {"Runtime IPfamily", zovQMIWDSGetRuntimeSettingsRespGetIPfamily, 0x002D, 0x2B},
+        {"Runtime IMCNFlag", zovQMIWDSGetRuntimeSettingsRespGetIMCNFlag, 0x002D, 0x2C},
+    };
+    checkGetters(getters);
+}
+
+TEST(WdsGetters, EveryShortGetterReadsItsItem) {
+    const Getter<uint16_t> getters[] = {
+        {"StartNetworkInterface CallEndReason", zovQMIWDSStartNetworkInterfaceRespGetCallEndReason, 0x0020, 0x10},
+        {"PktSrvcStatus CallEndReason", zovQMIWDSPktSrvcStatusINDGetCallEndReason, 0x0022, 0x10},
+        {"Runtime TechnologyName", zovQMIWDSGetRuntimeSettingsRespGetTechnologyName, 0x002D, 0x2D},
+    };
+    checkGetters(getters);
+}
+
+TEST(WdsGetters, EveryWordGetterReadsItsItem) {
+    const Getter<uint32_t> getters[] = {
+        {"EventReport TxPacketsOK", zovQMIWDSEventReportINDGetTxPacketsOK, 0x0001, 0x10},
+        {"EventReport RxPacketsOK", zovQMIWDSEventReportINDGetRxPacketsOK, 0x0001, 0x11},
+        {"EventReport TxPacketsErrors", zovQMIWDSEventReportINDGetTxPacketsErrors, 0x0001, 0x12},
+        {"EventReport RxPacketsErrors", zovQMIWDSEventReportINDGetRxPacketsErrors, 0x0001, 0x13},
+        {"EventReport TxOverflows", zovQMIWDSEventReportINDGetTxOverflows, 0x0001, 0x14},
+        {"EventReport RxOverflows", zovQMIWDSEventReportINDGetRxOverflows, 0x0001, 0x15},
+        {"PktStatistics TxPacketsOK", zovQMIWDSGetPktStatisticsRespGetTxPacketsOK, 0x0024, 0x10},
+        {"PktStatistics RxPacketsOK", zovQMIWDSGetPktStatisticsRespGetRxPacketsOK, 0x0024, 0x11},
+        {"PktStatistics TxPacketsErrors", zovQMIWDSGetPktStatisticsRespGetTxPacketsErrors, 0x0024, 0x12},
+        {"PktStatistics RxPacketsErrors", zovQMIWDSGetPktStatisticsRespGetRxPacketsErrors, 0x0024, 0x13},
+        {"PktStatistics TxOverflows", zovQMIWDSGetPktStatisticsRespGetTxOverflows, 0x0024, 0x14},
+        {"PktStatistics RxOverflows", zovQMIWDSGetPktStatisticsRespGetRxOverflows, 0x0024, 0x15},
+        {"Runtime IPv4GatewayAddress", zovQMIWDSGetRuntimeSettingsRespGetIPv4GatewayAddress, 0x002D, 0x20},
+        {"Runtime IPv4SubnetMask", zovQMIWDSGetRuntimeSettingsRespGetIPv4SubnetMask, 0x002D, 0x21},
+        {"Runtime MTU", zovQMIWDSGetRuntimeSettingsRespGetMTU, 0x002D, 0x29},
+    };
+    checkGetters(getters);
+}
+
+TEST(WdsGetters, EverySixtyFourBitGetterReadsLowHalfFirst) {
+    const Getter<uint64_t> getters[] = {
+        {"EventReport TxBytesOK", zovQMIWDSEventReportINDGetTxBytesOK, 0x0001, 0x19},
+        {"EventReport RxBytesOK", zovQMIWDSEventReportINDGetRxBytesOK, 0x0001, 0x1A},
+        {"PktStatistics TxBytesOK", zovQMIWDSGetPktStatisticsRespGetTxBytesOK, 0x0024, 0x19},
+        {"PktStatistics RxBytesOK", zovQMIWDSGetPktStatisticsRespGetRxBytesOK, 0x0024, 0x1A},
+        {"CallDuration LastCallDuration", zovQMIWDSGetCallDurationRespGetLastCallDuration, 0x0035, 0x10},
+        {"CallDuration ActiveDuration", zovQMIWDSGetCallDurationRespGetActiveDuration, 0x0035, 0x11},
+        {"CallDuration LastCallActiveDuration", zovQMIWDSGetCallDurationRespGetLastCallActiveDuration, 0x0035, 0x12},
+    };
+    checkGetters(getters);
+    // Low 32 bits first on the wire.
+    Bytes msg = svcMessage(0x0024, {result(), tlv(0x19, cat({le32(0x00000005), le32(0x00000001)}))});
+    uint64_t bytes = 0;
+    EXPECT_EQ(zovQMIWDSGetPktStatisticsRespGetTxBytesOK(msg.data(), L(msg), &bytes), 8);
+    EXPECT_EQ(bytes, 0x0000000100000005ull);
+}
+
+// Getters with two outputs: both are required.
+struct PairGetter16 {
+    const char* name;
+    int (*get)(const uint8_t*, int, uint16_t*, uint16_t*);
+    uint16_t id;
+};
+
+TEST(WdsGetters, VerboseCallEndReasonsYieldTypeThenReason) {
+    const PairGetter16 getters[] = {
+        {"StartNetworkInterface", zovQMIWDSStartNetworkInterfaceRespGetVerboseCallEndReason, 0x0020},
+        {"PktSrvcStatus", zovQMIWDSPktSrvcStatusINDGetVerboseCallEndReason, 0x0022},
+    };
+    for (const PairGetter16& g : getters) {
+        SCOPED_TRACE(g.name);
+        Bytes msg = svcMessage(g.id, {result(), tlv(0x11, cat({le16(0x0003), le16(0x07D1)}))});
+        uint16_t type = 0, reason = 0;
+        EXPECT_EQ(g.get(msg.data(), L(msg), &type, &reason), 4);
+        EXPECT_EQ(type, 3);
+        EXPECT_EQ(reason, 0x07D1);
+        EXPECT_EQ(g.get(msg.data(), L(msg), nullptr, &reason), -1);
+        EXPECT_EQ(g.get(msg.data(), L(msg), &type, nullptr), -1);
+        Bytes absent = svcMessage(g.id, {result()});
+        EXPECT_EQ(g.get(absent.data(), L(absent), &type, &reason), -3);
+        Bytes cut = cutShort(g.id, 0x11, 4, 3);
+        type = reason = 0xEEEE;
+        EXPECT_EQ(g.get(cut.data(), L(cut), &type, &reason), ZOVQMI_ERR_MALFORMED);
+        EXPECT_EQ(type, 0xEEEE);
+        EXPECT_EQ(reason, 0xEEEE);
+    }
+}
+
+TEST(WdsGetters, EventReportChannelRateYieldsTwoWordsInWireOrder) {
+    Bytes msg = svcMessage(0x0001, {tlv(0x16, cat({le32(236800), le32(3600000)}))}, 0, 0x04);
+    uint32_t first = 0, second = 0;
+    EXPECT_EQ(zovQMIWDSEventReportINDGetChannelRate(msg.data(), L(msg), &first, &second), 8);
+    EXPECT_EQ(first, 236800u);
+    EXPECT_EQ(second, 3600000u);
+    EXPECT_EQ(zovQMIWDSEventReportINDGetChannelRate(msg.data(), L(msg), nullptr, &second), -1);
+    EXPECT_EQ(zovQMIWDSEventReportINDGetChannelRate(msg.data(), L(msg), &first, nullptr), -1);
+    Bytes absent = svcMessage(0x0001, {tlv(0x17, {1})}, 0, 0x04);
+    EXPECT_EQ(zovQMIWDSEventReportINDGetChannelRate(absent.data(), L(absent), &first, &second), -3);
+}
+
+// -------------------------------------------------------- indications --
+
+TEST(WdsIndications, EventReportReturnsItsAreaLengthWithoutExaminingItems) {
+    // The last item claims more bytes than the buffer holds; it is not looked at.
+    Bytes msg = cat({svcMessage(0x0001, {tlv(0x10, le32(1))}, 0, 0x04)});
+    msg[5] = 12;  // TLV-area length: the 7-byte item and a 5-byte one cut short
+    msg = cat({msg, {0x19, 0xFF, 0xFF, 0x01, 0x02}});
+    EXPECT_EQ(zovQMIWDSEventReportIND(msg.data(), L(msg)), 12);
+    Bytes empty = svcMessage(0x0001, {}, 0, 0x04);
+    empty.push_back(0x00);  // one byte past the head so the walk visits it
+    EXPECT_EQ(zovQMIWDSEventReportIND(empty.data(), L(empty)), 0);
+    EXPECT_EQ(zovQMIWDSEventReportIND(nullptr, L(msg)), -1);
+    Bytes other = svcMessage(0x0022, {tlv(0x01, {2, 0})}, 0, 0x04);
+    EXPECT_EQ(zovQMIWDSEventReportIND(other.data(), L(other)), -2);
+}
+
+TEST(WdsIndications, PktSrvcStatusYieldsTheTwoStatusBytes) {
+    Bytes msg = svcMessage(0x0022, {tlv(0x01, {0x02, 0x01}), tlv(0x12, {0x04})}, 0, 0x04);
+    uint8_t status = 0, second = 0;
+    EXPECT_EQ(zovQMIWDSPktSrvcStatusIND(msg.data(), L(msg), &status, &second), 9);
+    EXPECT_EQ(status, 2);
+    EXPECT_EQ(second, 1);
+    EXPECT_EQ(zovQMIWDSPktSrvcStatusIND(msg.data(), L(msg), nullptr, &second), -1);
+    EXPECT_EQ(zovQMIWDSPktSrvcStatusIND(msg.data(), L(msg), &status, nullptr), -1);
+    EXPECT_EQ(zovQMIWDSPktSrvcStatusIND(nullptr, L(msg), &status, &second), -1);
+    Bytes other = svcMessage(0x0001, {tlv(0x01, {0x02, 0x01})}, 0, 0x04);
+    EXPECT_EQ(zovQMIWDSPktSrvcStatusIND(other.data(), L(other), &status, &second), -2);
+}
+
+TEST(WdsIndications, PktSrvcStatusWithoutItsStatusItemIsMinusThree) {
+    Bytes msg = svcMessage(0x0022, {tlv(0x10, le16(2))}, 0, 0x04);
+    uint8_t status = 0xEE, second = 0xEE;
+    EXPECT_EQ(zovQMIWDSPktSrvcStatusIND(msg.data(), L(msg), &status, &second), -3);
+    EXPECT_EQ(status, 0xEE);
+    EXPECT_EQ(second, 0xEE);
+}
+
 }  // namespace
