@@ -876,4 +876,491 @@ TEST(WdsIndications, PktSrvcStatusWithoutItsStatusItemIsMinusThree) {
     EXPECT_EQ(second, 0xEE);
 }
 
+// ----------------------------------------------------- profile items --
+
+// Profile parsers take the id of the response they read.  Items 0x10 to 0x1E
+// are also read from runtime settings (0x2D); the others only from profile
+// and default settings.
+const uint16_t kProfileIds[] = {0x002B, 0x002C, 0x002D};
+
+bool accepts(uint16_t id, bool runtime) { return id == 0x002B || id == 0x002C || (runtime && id == 0x002D); }
+
+template <class T>
+struct ProfileGetter {
+    const char* name;
+    int (*get)(const uint8_t*, int, uint16_t, T*);
+    uint8_t type;
+    bool runtime;
+};
+
+template <class T, size_t N>
+void checkProfileGetters(const ProfileGetter<T> (&getters)[N]) {
+    const T guard = T(0xEEEEEEEEu);
+    for (const ProfileGetter<T>& g : getters) {
+        SCOPED_TRACE(g.name);
+        for (uint16_t id : kProfileIds) {
+            SCOPED_TRACE(id);
+            Bytes msg = svcMessage(id, {result(), tlv(g.type, pattern(sizeof(T)))});
+            T out = guard;
+            if (accepts(id, g.runtime)) {
+                EXPECT_EQ(g.get(msg.data(), L(msg), id, &out), int(sizeof(T)));
+                EXPECT_EQ(out, patternValue<T>());
+                Bytes absent = svcMessage(id, {result(), tlv(uint8_t(g.type + 1), pattern(4))});
+                EXPECT_EQ(g.get(absent.data(), L(absent), id, &out), -3);
+                Bytes cut = cutShort(id, g.type, uint16_t(sizeof(T)), sizeof(T) - 1);
+                out = guard;
+                EXPECT_EQ(g.get(cut.data(), L(cut), id, &out), ZOVQMI_ERR_MALFORMED);
+                EXPECT_EQ(out, guard);
+            } else {
+                EXPECT_EQ(g.get(msg.data(), L(msg), id, &out), -1);
+                EXPECT_EQ(out, guard);
+            }
+            EXPECT_EQ(g.get(msg.data(), L(msg), id, nullptr), -1);
+            EXPECT_EQ(g.get(nullptr, L(msg), id, &out), -1);
+        }
+        // Another accepted id than the message's: the message is absent.
+        Bytes settings = svcMessage(0x002B, {result(), tlv(g.type, pattern(sizeof(T)))});
+        T out = guard;
+        EXPECT_EQ(g.get(settings.data(), L(settings), 0x002C, &out), -2);
+        // An id outside the set is refused before the buffer is looked at,
+        // even when a message of that id carries the item.
+        Bytes list = svcMessage(0x002A, {result(), tlv(g.type, pattern(sizeof(T)))});
+        EXPECT_EQ(g.get(list.data(), L(list), 0x002A, &out), -1);
+        EXPECT_EQ(g.get(list.data(), L(list), 0x012B, &out), -1);
+        EXPECT_EQ(out, guard);
+    }
+}
+
+TEST(WdsProfileItems, EveryByteItemParserReadsItsItemFromTheAcceptedMessages) {
+    const ProfileGetter<uint8_t> getters[] = {
+        {"PDPType", zovQMIWDSProfileRespGetPDPType, 0x11, true},
+        {"PDPHeaderCompression", zovQMIWDSProfileRespGetPDPHeaderCompression, 0x12, true},
+        {"PDPDataCompression", zovQMIWDSProfileRespGetPDPDataCompression, 0x13, true},
+        {"AuthenticationPreference", zovQMIWDSProfileRespGetAuthenticationPreference, 0x1D, true},
+        {"PCSCFAddressUsingPCOFlag", zovQMIWDSProfileRespGetPCSCFAddressUsingPCOFlag, 0x1F, false},
+        {"PDPAccessControlFlag", zovQMIWDSProfileRespGetPDPAccessControlFlag, 0x20, false},
+        {"PCSCFAddressUsingDHCPFlag", zovQMIWDSProfileRespGetPCSCFAddressUsingDHCPFlag, 0x21, false},
+        {"IMCNFlag", zovQMIWDSProfileRespGetIMCNFlag, 0x22, false},
+        {"PDPContextNumber", zovQMIWDSProfileRespGetPDPContextNumber, 0x25, false},
+        {"PDPContextSecondaryFlag", zovQMIWDSProfileRespGetPDPContextSecondaryFlag, 0x26, false},
+        {"PDPContextPrimaryID", zovQMIWDSProfileRespGetPDPContextPrimaryID, 0x27, false},
+        {"IPv4AddressAlloc", zovQMIWDSProfileRespGetIPv4AddressAlloc, 0x2D, false},
+    };
+    checkProfileGetters(getters);
+}
+
+TEST(WdsProfileItems, EveryWordItemParserReadsItsItemFromTheAcceptedMessages) {
+    const ProfileGetter<uint32_t> getters[] = {
+        {"PrimaryDNSIPv4AddressPreference", zovQMIWDSProfileRespGetPrimaryDNSIPv4AddressPreference, 0x15, true},
+        {"SecondaryDNSIPv4AddressPreference", zovQMIWDSProfileRespGetSecondaryDNSIPv4AddressPreference, 0x16, true},
+        {"IPv4AddressPreference", zovQMIWDSProfileRespGetIPv4AddressPreference, 0x1E, true},
+    };
+    checkProfileGetters(getters);
+}
+
+struct ProfileStringGetter {
+    const char* name;
+    int (*get)(const uint8_t*, int, uint16_t, uint16_t*, uint8_t*);
+    uint8_t type;
+};
+
+TEST(WdsProfileItems, EveryStringItemParserStoresTheLengthAndCopiesWhenAsked) {
+    const ProfileStringGetter getters[] = {
+        {"ProfileName", zovQMIWDSProfileRespGetProfileName, 0x10},
+        {"APNName", zovQMIWDSProfileRespGetAPNName, 0x14},
+        {"Username", zovQMIWDSProfileRespGetUsername, 0x1B},
+        {"Password", zovQMIWDSProfileRespGetPassword, 0x1C},
+    };
+    const Bytes text = str("web.example");
+    for (const ProfileStringGetter& g : getters) {
+        SCOPED_TRACE(g.name);
+        for (uint16_t id : kProfileIds) {
+            Bytes msg = svcMessage(id, {result(), tlv(g.type, text)});
+            uint16_t length = 0;
+            Bytes out = buffer(16);
+            EXPECT_EQ(g.get(msg.data(), L(msg), id, &length, out.data()), L(text));
+            EXPECT_EQ(length, text.size());
+            EXPECT_EQ(out, cat({text, fill(5, 0xEE)}));
+            length = 0;
+            EXPECT_EQ(g.get(msg.data(), L(msg), id, &length, nullptr), L(text));
+            EXPECT_EQ(length, text.size());
+            EXPECT_EQ(g.get(msg.data(), L(msg), id, nullptr, out.data()), -1);
+            EXPECT_EQ(g.get(msg.data(), L(msg), 0x002A, &length, out.data()), -1);
+        }
+        Bytes cut = cutShort(0x002B, g.type, 12, 11);
+        uint16_t length = 0xEEEE;
+        Bytes out = buffer(16);
+        EXPECT_EQ(g.get(cut.data(), L(cut), 0x002B, &length, out.data()), ZOVQMI_ERR_MALFORMED);
+        EXPECT_EQ(length, 0xEEEE);
+        EXPECT_EQ(out, buffer(16));
+    }
+}
+
+TEST(WdsProfileItems, PresentEmptyStringItemReturnsZeroAndStoresLengthZero) {
+    Bytes msg = svcMessage(0x002B, {result(), tlv(0x10, {})});
+    uint16_t length = 0xEEEE;
+    Bytes out = buffer(4);
+    EXPECT_EQ(zovQMIWDSProfileRespGetProfileName(msg.data(), L(msg), 0x002B, &length, out.data()), 0);
+    EXPECT_EQ(length, 0);
+    EXPECT_EQ(out, buffer(4));
+}
+
+struct ProfileRecordGetter {
+    const char* name;
+    int (*get)(const uint8_t*, int, uint16_t, uint8_t*);
+    uint8_t type;
+    size_t size;
+    bool runtime;
+};
+
+TEST(WdsProfileItems, EveryRecordItemParserCopiesTheRecordInWireLayout) {
+    const ProfileRecordGetter getters[] = {
+        {"UMTSRequestedQoS", zovQMIWDSProfileRespGetUMTSRequestedQoS, 0x17, 33, true},
+        {"UMTSMinimumQoS", zovQMIWDSProfileRespGetUMTSMinimumQoS, 0x18, 33, true},
+        {"GPRSRequestedQoS", zovQMIWDSProfileRespGetGPRSRequestedQoS, 0x19, 20, true},
+        {"GPRSMinimumQoS", zovQMIWDSProfileRespGetGPRSMinimumQoS, 0x1A, 20, true},
+        {"TFTFilterID1", zovQMIWDSProfileRespGetTFTFilterID1, 0x23, 39, false},
+        {"TFTFilterID2", zovQMIWDSProfileRespGetTFTFilterID2, 0x24, 39, false},
+        {"PDPContextIPv6Address", zovQMIWDSProfileRespGetPDPContextIPv6Address, 0x28, 16, false},
+        {"PrimaryIPv6DNSAddress", zovQMIWDSProfileRespGetPrimaryIPv6DNSAddress, 0x2B, 16, false},
+        {"SecondaryIPv6DNSAddress", zovQMIWDSProfileRespGetSecondaryIPv6DNSAddress, 0x2C, 16, false},
+        {"LTERequestedQoS", zovQMIWDSProfileRespGetLTERequestedQoS, 0x2E, 17, false},
+    };
+    for (const ProfileRecordGetter& g : getters) {
+        SCOPED_TRACE(g.name);
+        const Bytes record = pattern(g.size);
+        for (uint16_t id : kProfileIds) {
+            SCOPED_TRACE(id);
+            Bytes msg = svcMessage(id, {result(), tlv(g.type, record)});
+            Bytes out = buffer(g.size + 1);
+            if (accepts(id, g.runtime)) {
+                EXPECT_EQ(g.get(msg.data(), L(msg), id, out.data()), int(g.size));
+                EXPECT_EQ(out, cat({record, {0xEE}}));
+            } else {
+                EXPECT_EQ(g.get(msg.data(), L(msg), id, out.data()), -1);
+                EXPECT_EQ(out, buffer(g.size + 1));
+            }
+            EXPECT_EQ(g.get(msg.data(), L(msg), id, nullptr), -1);
+            EXPECT_EQ(g.get(msg.data(), L(msg), 0x002A, out.data()), -1);
+        }
+        Bytes cut = cutShort(0x002C, g.type, uint16_t(g.size), g.size - 1);
+        Bytes out = buffer(g.size);
+        EXPECT_EQ(g.get(cut.data(), L(cut), 0x002C, out.data()), ZOVQMI_ERR_MALFORMED);
+        EXPECT_EQ(out, buffer(g.size));
+        Bytes absent = svcMessage(0x002C, {result()});
+        EXPECT_EQ(g.get(absent.data(), L(absent), 0x002C, out.data()), -3);
+    }
+}
+
+TEST(WdsProfileItems, UMTSQoSFieldsAreLittleEndianInTheRecord) {
+    Bytes value = cat({{0x03}, le32(64000), le32(384000), le32(0), le32(0), {0x01}, le32(1500), {0x04, 0x05, 0x06},
+                       le32(100), le32(2)});
+    Bytes msg = svcMessage(0x002B, {result(), tlv(0x17, value)});
+    WDSUMTSQoS qos;
+    EXPECT_EQ(zovQMIWDSProfileRespGetUMTSRequestedQoS(msg.data(), L(msg), 0x002B, reinterpret_cast<uint8_t*>(&qos)),
+              33);
+    EXPECT_EQ(qos.trafficClass, 3);
+    EXPECT_EQ(rd32(&qos.maxDownlinkBitrate), 384000u);
+    EXPECT_EQ(rd32(&qos.maxSDUSize), 1500u);
+    EXPECT_EQ(qos.deliveryErroneousSDUs, 6);
+    EXPECT_EQ(rd32(&qos.trafficHandlingPriority), 2u);
+}
+
+TEST(WdsProfileItems, IMCNFlagRefusesTheRuntimeIdEvenWhenTheItemIsThere) {
+    Bytes msg = svcMessage(0x002D, {result(), tlv(0x22, {0x01})});
+    uint8_t flag = 0xEE;
+    EXPECT_EQ(zovQMIWDSProfileRespGetIMCNFlag(msg.data(), L(msg), 0x002D, &flag), -1);
+    EXPECT_EQ(flag, 0xEE);
+    // The runtime settings parser of the same type reads it.
+    EXPECT_EQ(zovQMIWDSGetRuntimeSettingsRespGetPCSCFAddressUsingPCOFlag(msg.data(), L(msg), &flag), 1);
+    EXPECT_EQ(flag, 0x01);
+}
+
+TEST(WdsProfileItems, PDPTypeReadsItemSeventeenFromARuntimeSettingsResponse) {
+    Bytes msg = svcMessage(0x002D, {result(), tlv(0x11, {0x02}), tlv(0x1F, {0x00, 0x01})});
+    uint8_t type = 0;
+    EXPECT_EQ(zovQMIWDSProfileRespGetPDPType(msg.data(), L(msg), 0x002D, &type), 1);
+    EXPECT_EQ(type, 2);
+}
+
+TEST(WdsProfileItems, ProfileListIdIsRefusedBeforeTheBufferIsLookedAt) {
+    // A buffer whose message walk would run off its end: never walked.
+    Bytes msg = {0x02, 0x34, 0x12, 0x2A, 0x00, 0xFF, 0xFF, 0x11};
+    uint8_t v = 0xEE;
+    uint32_t w = 0xEEEEEEEE;
+    uint16_t length = 0xEEEE;
+    uint8_t rec[40];
+    EXPECT_EQ(zovQMIWDSProfileRespGetPDPType(msg.data(), L(msg), 0x002A, &v), -1);
+    EXPECT_EQ(zovQMIWDSProfileRespGetIPv4AddressPreference(msg.data(), L(msg), 0x002A, &w), -1);
+    EXPECT_EQ(zovQMIWDSProfileRespGetUsername(msg.data(), L(msg), 0x002A, &length, nullptr), -1);
+    EXPECT_EQ(zovQMIWDSProfileRespGetTFTFilterID1(msg.data(), L(msg), 0x002A, rec), -1);
+    EXPECT_EQ(v, 0xEE);
+    EXPECT_EQ(w, 0xEEEEEEEEu);
+    EXPECT_EQ(length, 0xEEEE);
+}
+
+// ------------------------------------------------------- profile list --
+
+Bytes profileList() {
+    return cat({{0x02}, {0x00, 0x01, 0x03}, str("one"), {0x01, 0x02, 0x05}, str("three")});
+}
+
+TEST(WdsProfileList, EntriesAndNamesGoIntoTheCallersRecords) {
+    Bytes msg = svcMessage(0x002A, {result(), tlv(0x01, profileList())});
+    QmiResult r;
+    uint8_t count = 0;
+    Bytes name1 = buffer(4), name2 = buffer(6);
+    WDSProfileListEntry list[3];
+    std::memset(list, 0xEE, sizeof list);
+    list[0].name = name1.data();
+    list[1].name = name2.data();
+    EXPECT_EQ(zovQMIWDSGetProfileListResp(msg.data(), L(msg), &r, &count, list), 7 + 3 + L(profileList()));
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(list[0].profileType, 0x00);
+    EXPECT_EQ(list[0].profileIndex, 0x01);
+    EXPECT_EQ(list[0].nameLength, 3);
+    EXPECT_EQ(list[1].profileType, 0x01);
+    EXPECT_EQ(list[1].profileIndex, 0x02);
+    EXPECT_EQ(list[1].nameLength, 5);
+    EXPECT_EQ(name1, cat({str("one"), {0xEE}}));
+    EXPECT_EQ(name2, cat({str("three"), {0xEE}}));
+    EXPECT_EQ(list[2].profileType, 0xEE);
+}
+
+TEST(WdsProfileList, NullListStoresOnlyTheCount) {
+    Bytes msg = svcMessage(0x002A, {result(), tlv(0x01, profileList())});
+    QmiResult r;
+    uint8_t count = 0;
+    EXPECT_EQ(zovQMIWDSGetProfileListResp(msg.data(), L(msg), &r, &count, nullptr), 7 + 3 + L(profileList()));
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(zovQMIWDSGetProfileListResp(msg.data(), L(msg), &r, nullptr, nullptr), -1);
+}
+
+TEST(WdsProfileList, NullNamePointersGetTypeIndexAndLengthButNoName) {
+    Bytes msg = svcMessage(0x002A, {result(), tlv(0x01, profileList())});
+    QmiResult r;
+    uint8_t count = 0;
+    WDSProfileListEntry list[2];
+    std::memset(list, 0xEE, sizeof list);
+    list[0].name = nullptr;
+    list[1].name = nullptr;
+    EXPECT_EQ(zovQMIWDSGetProfileListResp(msg.data(), L(msg), &r, &count, list), 7 + 3 + L(profileList()));
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(list[0].nameLength, 3);
+    EXPECT_EQ(list[1].profileType, 0x01);
+    EXPECT_EQ(list[1].profileIndex, 0x02);
+    EXPECT_EQ(list[1].nameLength, 5);
+    EXPECT_EQ(list[0].name, nullptr);
+    EXPECT_EQ(list[1].name, nullptr);
+}
+
+TEST(WdsProfileList, NameRunningPastTheBufferIsMalformedAndNothingIsWritten) {
+    // The second name claims 9 bytes; only 5 remain.
+    Bytes value = cat({{0x02}, {0x00, 0x01, 0x03}, str("one"), {0x01, 0x02, 0x09}, str("three")});
+    Bytes msg = svcMessage(0x002A, {result(), tlv(0x01, value)});
+    QmiResult r;
+    uint8_t count = 0xEE;
+    Bytes name1 = buffer(4), name2 = buffer(10);
+    WDSProfileListEntry list[2];
+    std::memset(list, 0xEE, sizeof list);
+    list[0].name = name1.data();
+    list[1].name = name2.data();
+    EXPECT_EQ(zovQMIWDSGetProfileListResp(msg.data(), L(msg), &r, &count, list), ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(count, 0xEE);
+    EXPECT_EQ(list[0].profileType, 0xEE);
+    EXPECT_EQ(list[0].nameLength, 0xEE);
+    EXPECT_EQ(name1, buffer(4));
+    EXPECT_EQ(name2, buffer(10));
+}
+
+TEST(WdsProfileList, CountRunningPastTheBufferIsMalformed) {
+    Bytes msg = svcMessage(0x002A, {result(), tlv(0x01, {0x03, 0x00, 0x01, 0x00})});
+    QmiResult r;
+    uint8_t count = 0xEE;
+    WDSProfileListEntry list[3];
+    std::memset(list, 0xEE, sizeof list);
+    EXPECT_EQ(zovQMIWDSGetProfileListResp(msg.data(), L(msg), &r, &count, list), ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(count, 0xEE);
+    EXPECT_EQ(list[0].profileType, 0xEE);
+}
+
+// --------------------------------------------------- runtime settings --
+
+TEST(WdsRuntime, ProfileIdentifierYieldsTypeAndIndex) {
+    Bytes msg = svcMessage(0x002D, {result(), tlv(0x1F, {0x01, 0x04})});
+    uint8_t type = 0, index = 0;
+    EXPECT_EQ(zovQMIWDSGetRuntimeSettingsRespGetProfileIdentifier(msg.data(), L(msg), &type, &index), 2);
+    EXPECT_EQ(type, 1);
+    EXPECT_EQ(index, 4);
+    EXPECT_EQ(zovQMIWDSGetRuntimeSettingsRespGetProfileIdentifier(msg.data(), L(msg), nullptr, &index), -1);
+    EXPECT_EQ(zovQMIWDSGetRuntimeSettingsRespGetProfileIdentifier(msg.data(), L(msg), &type, nullptr), -1);
+    Bytes other = svcMessage(0x002B, {result(), tlv(0x1F, {0x01, 0x04})});
+    EXPECT_EQ(zovQMIWDSGetRuntimeSettingsRespGetProfileIdentifier(other.data(), L(other), &type, &index), -2);
+}
+
+struct AddressWithPrefix {
+    const char* name;
+    int (*get)(const uint8_t*, int, uint8_t*, uint8_t*);
+    uint8_t type;
+};
+
+TEST(WdsRuntime, IPv6AddressesWithPrefixNeedBothOutputs) {
+    const AddressWithPrefix getters[] = {
+        {"IPv6Address", zovQMIWDSGetRuntimeSettingsRespGetIPv6Address, 0x25},
+        {"IPv6GatewayAddress", zovQMIWDSGetRuntimeSettingsRespGetIPv6GatewayAddress, 0x26},
+    };
+    const Bytes address = pattern(16);
+    for (const AddressWithPrefix& g : getters) {
+        SCOPED_TRACE(g.name);
+        Bytes msg = svcMessage(0x002D, {result(), tlv(g.type, cat({address, {64}}))});
+        Bytes out = buffer(17);
+        uint8_t prefix = 0;
+        EXPECT_EQ(g.get(msg.data(), L(msg), out.data(), &prefix), 17);
+        EXPECT_EQ(out, cat({address, {0xEE}}));
+        EXPECT_EQ(prefix, 64);
+        EXPECT_EQ(g.get(msg.data(), L(msg), out.data(), nullptr), -1);
+        EXPECT_EQ(g.get(msg.data(), L(msg), nullptr, &prefix), -1);
+        Bytes absent = svcMessage(0x002D, {result()});
+        EXPECT_EQ(g.get(absent.data(), L(absent), out.data(), &prefix), -3);
+        Bytes cut = cutShort(0x002D, g.type, 17, 16);
+        Bytes untouched = buffer(16);
+        prefix = 0xEE;
+        EXPECT_EQ(g.get(cut.data(), L(cut), untouched.data(), &prefix), ZOVQMI_ERR_MALFORMED);
+        EXPECT_EQ(untouched, buffer(16));
+        EXPECT_EQ(prefix, 0xEE);
+    }
+}
+
+TEST(WdsRuntime, PrefixLengthIsTheByteAfterTheAddressEvenBeyondAShortItem) {
+    // An item of 16 bytes: the prefix is read from the next item's type byte.
+    Bytes msg = svcMessage(0x002D, {result(), tlv(0x25, pattern(16)), tlv(0x29, le32(1500))});
+    Bytes out(16);
+    uint8_t prefix = 0;
+    EXPECT_EQ(zovQMIWDSGetRuntimeSettingsRespGetIPv6Address(msg.data(), L(msg), out.data(), &prefix), 16);
+    EXPECT_EQ(prefix, 0x29);
+}
+
+TEST(WdsRuntime, IPv6DNSAddressesHaveOnlyTheAddressOutput) {
+    const Bytes address = pattern(16);
+    Bytes msg = svcMessage(0x002D, {result(), tlv(0x27, address), tlv(0x28, cat({address, {0x01}}))});
+    Bytes out = buffer(17);
+    EXPECT_EQ(zovQMIWDSGetRuntimeSettingsRespGetPrimaryIPv6DNSAddress(msg.data(), L(msg), out.data()), 16);
+    EXPECT_EQ(out, cat({address, {0xEE}}));
+    out = buffer(17);
+    EXPECT_EQ(zovQMIWDSGetRuntimeSettingsRespGetSecondaryIPv6DNSAddress(msg.data(), L(msg), out.data()), 17);
+    EXPECT_EQ(out, cat({address, {0xEE}}));
+    EXPECT_EQ(zovQMIWDSGetRuntimeSettingsRespGetPrimaryIPv6DNSAddress(msg.data(), L(msg), nullptr), -1);
+    EXPECT_EQ(zovQMIWDSGetRuntimeSettingsRespGetSecondaryIPv6DNSAddress(msg.data(), L(msg), nullptr), -1);
+    Bytes absent = svcMessage(0x002D, {result()});
+    EXPECT_EQ(zovQMIWDSGetRuntimeSettingsRespGetPrimaryIPv6DNSAddress(absent.data(), L(absent), out.data()), -3);
+    EXPECT_EQ(zovQMIWDSGetRuntimeSettingsRespGetSecondaryIPv6DNSAddress(absent.data(), L(absent), out.data()), -3);
+}
+
+TEST(WdsRuntime, PCSCFAddressListYieldsNativeAddresses) {
+    Bytes value = cat({{0x02}, le32(0x0A000001), le32(0xC0A80101)});
+    Bytes msg = svcMessage(0x002D, {result(), tlv(0x23, value)});
+    uint8_t count = 0;
+    uint32_t list[3] = {0xEEEEEEEE, 0xEEEEEEEE, 0xEEEEEEEE};
+    EXPECT_EQ(zovQMIWDSGetRuntimeSettingsRespGetPCSCFIPv4ServerAddressList(msg.data(), L(msg), &count, list), 9);
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(list[0], 0x0A000001u);
+    EXPECT_EQ(list[1], 0xC0A80101u);
+    EXPECT_EQ(list[2], 0xEEEEEEEEu);
+    count = 0;
+    EXPECT_EQ(zovQMIWDSGetRuntimeSettingsRespGetPCSCFIPv4ServerAddressList(msg.data(), L(msg), &count, nullptr), 9);
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(zovQMIWDSGetRuntimeSettingsRespGetPCSCFIPv4ServerAddressList(msg.data(), L(msg), nullptr, list), -1);
+    Bytes absent = svcMessage(0x002D, {result()});
+    EXPECT_EQ(zovQMIWDSGetRuntimeSettingsRespGetPCSCFIPv4ServerAddressList(absent.data(), L(absent), &count, list),
+              -3);
+}
+
+TEST(WdsRuntime, AddressCountRunningPastTheBufferIsMalformedAndNothingIsWritten) {
+    Bytes msg = svcMessage(0x002D, {result(), tlv(0x23, cat({{0x03}, le32(1), le32(2)}))});
+    uint8_t count = 0xEE;
+    uint32_t list[3] = {0xEEEEEEEE, 0xEEEEEEEE, 0xEEEEEEEE};
+    EXPECT_EQ(zovQMIWDSGetRuntimeSettingsRespGetPCSCFIPv4ServerAddressList(msg.data(), L(msg), &count, list),
+              ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(count, 0xEE);
+    EXPECT_EQ(list[0], 0xEEEEEEEEu);
+}
+
+struct NameList {
+    const char* name;
+    int (*get)(const uint8_t*, int, uint8_t*, WDSNameListEntry*);
+    uint8_t type;
+};
+const NameList kNameLists[] = {
+    {"PCSCFFQDNList", zovQMIWDSGetRuntimeSettingsRespGetPCSCFFQDNList, 0x24},
+    {"DomainNameList", zovQMIWDSGetRuntimeSettingsRespGetDomainNameList, 0x2A},
+};
+
+Bytes names() { return cat({{0x02}, le16(4), str("a.io"), le16(7), str("lan.net")}); }
+
+TEST(WdsRuntime, NameListsFillLengthsAndCopyIntoTheCallersBuffers) {
+    for (const NameList& g : kNameLists) {
+        SCOPED_TRACE(g.name);
+        Bytes msg = svcMessage(0x002D, {result(), tlv(g.type, names())});
+        uint8_t count = 0;
+        Bytes name1 = buffer(5), name2 = buffer(8);
+        WDSNameListEntry list[3];
+        std::memset(list, 0xEE, sizeof list);
+        list[0].name = name1.data();
+        list[1].name = name2.data();
+        EXPECT_EQ(g.get(msg.data(), L(msg), &count, list), L(names()));
+        EXPECT_EQ(count, 2);
+        EXPECT_EQ(rd16(&list[0].length), 4);
+        EXPECT_EQ(rd16(&list[1].length), 7);
+        EXPECT_EQ(name1, cat({str("a.io"), {0xEE}}));
+        EXPECT_EQ(name2, cat({str("lan.net"), {0xEE}}));
+        EXPECT_EQ(rd16(&list[2].length), 0xEEEE);
+        // Null name buffers: lengths only.
+        list[0].name = nullptr;
+        list[1].name = nullptr;
+        std::memset(&list[1].length, 0, 2);
+        EXPECT_EQ(g.get(msg.data(), L(msg), &count, list), L(names()));
+        EXPECT_EQ(rd16(&list[1].length), 7);
+        EXPECT_EQ(list[1].name, nullptr);
+        // Null list: the count only.
+        count = 0;
+        EXPECT_EQ(g.get(msg.data(), L(msg), &count, nullptr), L(names()));
+        EXPECT_EQ(count, 2);
+        EXPECT_EQ(g.get(msg.data(), L(msg), nullptr, list), -1);
+        Bytes absent = svcMessage(0x002D, {result()});
+        EXPECT_EQ(g.get(absent.data(), L(absent), &count, list), -3);
+    }
+}
+
+TEST(WdsRuntime, EmptyNameListStoresZeroAndReturnsOne) {
+    for (const NameList& g : kNameLists) {
+        SCOPED_TRACE(g.name);
+        Bytes msg = svcMessage(0x002D, {result(), tlv(g.type, {0x00})});
+        uint8_t count = 0xEE;
+        WDSNameListEntry list[1];
+        std::memset(list, 0xEE, sizeof list);
+        EXPECT_EQ(g.get(msg.data(), L(msg), &count, list), 1);
+        EXPECT_EQ(count, 0);
+        EXPECT_EQ(rd16(&list[0].length), 0xEEEE);
+    }
+}
+
+TEST(WdsRuntime, NameRunningPastTheBufferIsMalformedAndNothingIsWritten) {
+    for (const NameList& g : kNameLists) {
+        SCOPED_TRACE(g.name);
+        Bytes value = cat({{0x02}, le16(4), str("a.io"), le16(9), str("lan.net")});
+        Bytes msg = svcMessage(0x002D, {result(), tlv(g.type, value)});
+        uint8_t count = 0xEE;
+        Bytes name1 = buffer(5), name2 = buffer(10);
+        WDSNameListEntry list[2];
+        std::memset(list, 0xEE, sizeof list);
+        list[0].name = name1.data();
+        list[1].name = name2.data();
+        EXPECT_EQ(g.get(msg.data(), L(msg), &count, list), ZOVQMI_ERR_MALFORMED);
+        EXPECT_EQ(count, 0xEE);
+        EXPECT_EQ(rd16(&list[0].length), 0xEEEE);
+        EXPECT_EQ(name1, buffer(5));
+        EXPECT_EQ(name2, buffer(10));
+    }
+}
+
 }  // namespace
