@@ -74,7 +74,8 @@ TEST(WdsRequests, EveryFixedRequestWritesItsBytesAndRefusesOneByteLess) {
         {"Reset", [](uint8_t* b, int n) { return zovQMIWDSResetReq(b, n); }, 0x0000, {}},
         {"SetEventReport", [](uint8_t* b, int n) { return zovQMIWDSSetEventReportReq(b, n); }, 0x0001, {}},
         {"Abort", [](uint8_t* b, int n) { return zovQMIWDSAbortReq(b, n, 0x0A0B); }, 0x0002, tlv(0x01, le16(0x0A0B))},
-        {"StartNetworkInterface", [](uint8_t* b, int n) { return zovQMIWDSStartNetworkInterfaceReq(b, n); }, 0x0020, {}},
+        {"StartNetworkInterface", [](uint8_t* b, int n) { return zovQMIWDSStartNetworkInterfaceReq(b, n); }, 0x0020,
+         {}},
         {"StopNetworkInterface", [](uint8_t* b, int n) { return zovQMIWDSStopNetworkInterfaceReq(b, n, 0xC1C2C3C4); },
          0x0021, tlv(0x01, le32(0xC1C2C3C4))},
         {"GetPktSrvcStatus", [](uint8_t* b, int n) { return zovQMIWDSGetPktSrvcStatusReq(b, n); }, 0x0022, {}},
@@ -224,7 +225,9 @@ TEST(WdsRequests, EveryScalarItemBuilderAppendsItsItem) {
          [](uint8_t* b, int n) { return zovQMIWDSSetEventReportReqAddCurrentDataBearerTechnologyIndicator(b, n, 1); },
          tlv(0x15, {1})},
         {"PrimaryDNSAddressPreference",
-         [](uint8_t* b, int n) { return zovQMIWDSStartNetworkInterfaceReqAddPrimaryDNSAddressPreference(b, n, 0x08080808); },
+         [](uint8_t* b, int n) {
+             return zovQMIWDSStartNetworkInterfaceReqAddPrimaryDNSAddressPreference(b, n, 0x08080808);
+         },
          tlv(0x10, le32(0x08080808))},
         {"SecondaryDNSAddressPreference",
          [](uint8_t* b, int n) {
@@ -232,7 +235,9 @@ TEST(WdsRequests, EveryScalarItemBuilderAppendsItsItem) {
          },
          tlv(0x11, le32(0x01020304))},
         {"PrimaryNBNSAddressPreference",
-         [](uint8_t* b, int n) { return zovQMIWDSStartNetworkInterfaceReqAddPrimaryNBNSAddressPreference(b, n, 0xA0B0); },
+         [](uint8_t* b, int n) {
+             return zovQMIWDSStartNetworkInterfaceReqAddPrimaryNBNSAddressPreference(b, n, 0xA0B0);
+         },
          tlv(0x12, le32(0xA0B0))},
         {"SecondaryNBNSAddressPreference",
          [](uint8_t* b, int n) {
@@ -255,10 +260,14 @@ TEST(WdsRequests, EveryScalarItemBuilderAppendsItsItem) {
          [](uint8_t* b, int n) { return zovQMIWDSStartNetworkInterfaceReqAdd3GPPConfiguredProfileIdentifier(b, n, 2); },
          tlv(0x31, {2})},
         {"3GPP2ConfiguredProfileIdentifier",
-         [](uint8_t* b, int n) { return zovQMIWDSStartNetworkInterfaceReqAdd3GPP2ConfiguredProfileIdentifier(b, n, 9); },
+         [](uint8_t* b, int n) {
+             return zovQMIWDSStartNetworkInterfaceReqAdd3GPP2ConfiguredProfileIdentifier(b, n, 9);
+         },
          tlv(0x32, {9})},
         {"ExtendedTechnologyPreference",
-         [](uint8_t* b, int n) { return zovQMIWDSStartNetworkInterfaceReqAddExtendedTechnologyPreference(b, n, 0x8004); },
+         [](uint8_t* b, int n) {
+             return zovQMIWDSStartNetworkInterfaceReqAddExtendedTechnologyPreference(b, n, 0x8004);
+         },
          tlv(0x34, le16(0x8004))},
         {"CallTypeIdentifier",
          [](uint8_t* b, int n) { return zovQMIWDSStartNetworkInterfaceReqAddCallTypeIdentifier(b, n, 1); },

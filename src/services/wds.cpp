@@ -25,6 +25,22 @@ auto verboseReason(uint16_t* type, uint16_t* reason) {
     };
 }
 
+// A profile identifier: profile type u8, profile index u8.
+auto profileIdentifier(uint8_t* profileType, uint8_t* profileIndex) {
+    return [=](Dec& d) {
+        d.put(profileType, d.u8(0));
+        d.put(profileIndex, d.u8(1));
+    };
+}
+
+// An IPv6 address (16 bytes as they are) and the prefix length behind it.
+auto ipv6WithPrefix(uint8_t* address, uint8_t* prefixLength) {
+    return [=](Dec& d) {
+        d.copy(address, 0, kIPv6Size);
+        d.put(prefixLength, d.u8(kIPv6Size));
+    };
+}
+
 // Profile items are read from GetProfileSettings (0x002B) and
 // GetDefaultSettings (0x002C) responses; items 0x10 to 0x1E also from
 // GetRuntimeSettings (0x002D), where the higher types carry other items.
@@ -300,10 +316,8 @@ extern "C" int zovQMIWDSCreateProfileReq(uint8_t* buf, int bufsize, uint8_t prof
 }
 extern "C" int zovQMIWDSCreateProfileResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* profileType,
                                           uint8_t* profileIndex) {
-    return resp(msg, len, result, 0x0027, all(profileType, profileIndex), [=](Dec& d) {
-        d.put(profileType, d.u8(0));
-        d.put(profileIndex, d.u8(1));
-    });
+    return resp(msg, len, result, 0x0027, all(profileType, profileIndex),
+                profileIdentifier(profileType, profileIndex));
 }
 
 // ModifyProfileSettings 0x0028
@@ -637,10 +651,7 @@ extern "C" int zovQMIWDSGetRuntimeSettingsResp(const uint8_t* msg, int len, QmiR
 }
 extern "C" int zovQMIWDSGetRuntimeSettingsRespGetProfileIdentifier(const uint8_t* msg, int len, uint8_t* profileType,
                                                                    uint8_t* profileIndex) {
-    return get(msg, len, 0x002D, 0x1F, all(profileType, profileIndex), [=](Dec& d) {
-        d.put(profileType, d.u8(0));
-        d.put(profileIndex, d.u8(1));
-    });
+    return get(msg, len, 0x002D, 0x1F, all(profileType, profileIndex), profileIdentifier(profileType, profileIndex));
 }
 extern "C" int zovQMIWDSGetRuntimeSettingsRespGetIPv4GatewayAddress(const uint8_t* msg, int len, uint32_t* address) {
     return get(msg, len, 0x002D, 0x20, all(address), scalar(address));
@@ -668,17 +679,11 @@ extern "C" int zovQMIWDSGetRuntimeSettingsRespGetPCSCFFQDNList(const uint8_t* ms
 }
 extern "C" int zovQMIWDSGetRuntimeSettingsRespGetIPv6Address(const uint8_t* msg, int len, uint8_t* address,
                                                              uint8_t* prefixLength) {
-    return get(msg, len, 0x002D, 0x25, all(address, prefixLength), [=](Dec& d) {
-        d.copy(address, 0, kIPv6Size);
-        d.put(prefixLength, d.u8(kIPv6Size));
-    });
+    return get(msg, len, 0x002D, 0x25, all(address, prefixLength), ipv6WithPrefix(address, prefixLength));
 }
 extern "C" int zovQMIWDSGetRuntimeSettingsRespGetIPv6GatewayAddress(const uint8_t* msg, int len, uint8_t* address,
                                                                     uint8_t* prefixLength) {
-    return get(msg, len, 0x002D, 0x26, all(address, prefixLength), [=](Dec& d) {
-        d.copy(address, 0, kIPv6Size);
-        d.put(prefixLength, d.u8(kIPv6Size));
-    });
+    return get(msg, len, 0x002D, 0x26, all(address, prefixLength), ipv6WithPrefix(address, prefixLength));
 }
 extern "C" int zovQMIWDSGetRuntimeSettingsRespGetPrimaryIPv6DNSAddress(const uint8_t* msg, int len,
                                                                        uint8_t* address) {
