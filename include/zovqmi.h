@@ -188,7 +188,318 @@ ZOVQMI_API int zovQMICTLGetPwrSaveModeReq(uint8_t* buf, int bufsize);
 ZOVQMI_API int zovQMICTLGetPwrSaveModeResp(const uint8_t* msg, int len, QmiResult* result, uint32_t* powerSaveMode);
 
 /* ---------------------------------------------------------------- WDS -- */
-/* (WDS declarations) */
+
+#pragma pack(push, 1)
+
+/* WDS: the current channel rate (16 bytes): four u32 as on the wire. */
+typedef struct WDSChannelRate {
+    uint32_t rates[4];
+} WDSChannelRate;
+
+/* WDS: one entry of the profile list: profile type, profile index, name
+ * length and a caller-owned buffer that receives the name (may be null).
+ * 7 bytes on 32-bit hosts. */
+typedef struct WDSProfileListEntry {
+    uint8_t profileType;
+    uint8_t profileIndex;
+    uint8_t nameLength;
+    uint8_t* name;
+} WDSProfileListEntry;
+
+/* WDS: UMTS quality of service of a profile (33 bytes, wire layout). */
+typedef struct WDSUMTSQoS {
+    uint8_t trafficClass;
+    uint32_t maxUplinkBitrate;
+    uint32_t maxDownlinkBitrate;
+    uint32_t guaranteedUplinkBitrate;
+    uint32_t guaranteedDownlinkBitrate;
+    uint8_t deliveryOrder;
+    uint32_t maxSDUSize;
+    uint8_t sduErrorRatio;
+    uint8_t residualBitErrorRatio;
+    uint8_t deliveryErroneousSDUs;
+    uint32_t transferDelay;
+    uint32_t trafficHandlingPriority;
+} WDSUMTSQoS;
+
+/* WDS: GPRS quality of service of a profile (20 bytes, wire layout). */
+typedef struct WDSGPRSQoS {
+    uint32_t precedenceClass;
+    uint32_t delayClass;
+    uint32_t reliabilityClass;
+    uint32_t peakThroughputClass;
+    uint32_t meanThroughputClass;
+} WDSGPRSQoS;
+
+/* WDS: a traffic flow template filter of a profile (39 bytes, wire layout);
+ * the 21 leading bytes travel as they are. */
+typedef struct WDSTFTFilter {
+    uint8_t leading[21];
+    uint16_t destinationPortStart;
+    uint16_t destinationPortRange;
+    uint16_t sourcePortStart;
+    uint16_t sourcePortRange;
+    uint32_t securityParameterIndex;
+    uint16_t typeOfServiceMask;
+    uint32_t flowLabel;
+} WDSTFTFilter;
+
+/* WDS: LTE quality of service of a profile (17 bytes, wire layout). */
+typedef struct WDSLTEQoS {
+    uint8_t qci;
+    uint32_t guaranteedUplinkBitrate;
+    uint32_t guaranteedDownlinkBitrate;
+    uint32_t maxUplinkBitrate;
+    uint32_t maxDownlinkBitrate;
+} WDSLTEQoS;
+
+/* WDS: one entry of a runtime name list (P-CSCF names, domain names):
+ * name length and a caller-owned buffer that receives the name (may be
+ * null).  6 bytes on 32-bit hosts. */
+typedef struct WDSNameListEntry {
+    uint16_t length;
+    uint8_t* name;
+} WDSNameListEntry;
+
+#pragma pack(pop)
+
+/* Composite profile items (UMTS, GPRS, LTE QoS, TFT filters) and IPv6
+ * addresses cross as byte pointers to the records above (or to 16 bytes in
+ * network order); the channel rate likewise.  Profile item parsers take the
+ * id of the response they read: 0x002B, 0x002C and, for item types 0x10 to
+ * 0x1E, 0x002D; any other id gives -1. */
+ZOVQMI_API int zovQMIWDSResetReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSResetResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSSetEventReportReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSSetEventReportReqAddCurrentChannelRateIndicator(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMIWDSSetEventReportReqAddTransferStatisticsIndicator(uint8_t* buf, int bufsize, uint8_t period,
+                                                                        uint32_t mask);
+ZOVQMI_API int zovQMIWDSSetEventReportReqAddCurrentDataBearerTechnologyIndicatorDeprecated(uint8_t* buf, int bufsize,
+                                                                                           uint8_t report);
+ZOVQMI_API int zovQMIWDSSetEventReportReqAddDormancyStatusIndicator(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMIWDSSetEventReportReqAddCurrentDataBearerTechnologyIndicator(uint8_t* buf, int bufsize,
+                                                                                 uint8_t report);
+ZOVQMI_API int zovQMIWDSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSEventReportIND(const uint8_t* msg, int len);
+ZOVQMI_API int zovQMIWDSEventReportINDGetTxPacketsOK(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSEventReportINDGetRxPacketsOK(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSEventReportINDGetTxPacketsErrors(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSEventReportINDGetRxPacketsErrors(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSEventReportINDGetTxOverflows(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSEventReportINDGetRxOverflows(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSEventReportINDGetChannelRate(const uint8_t* msg, int len, uint32_t* first, uint32_t* second);
+ZOVQMI_API int zovQMIWDSEventReportINDGetDataBearerTechnology(const uint8_t* msg, int len, uint8_t* technology);
+ZOVQMI_API int zovQMIWDSEventReportINDGetDormancyStatus(const uint8_t* msg, int len, uint8_t* status);
+ZOVQMI_API int zovQMIWDSEventReportINDGetTxBytesOK(const uint8_t* msg, int len, uint64_t* count);
+ZOVQMI_API int zovQMIWDSEventReportINDGetRxBytesOK(const uint8_t* msg, int len, uint64_t* count);
+ZOVQMI_API int zovQMIWDSEventReportINDGetCurrentDataBearerTechnology(const uint8_t* msg, int len,
+                                                                     uint8_t* technology, uint32_t* first,
+                                                                     uint32_t* second);
+ZOVQMI_API int zovQMIWDSAbortReq(uint8_t* buf, int bufsize, uint16_t value);
+ZOVQMI_API int zovQMIWDSAbortResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddPrimaryDNSAddressPreference(uint8_t* buf, int bufsize,
+                                                                               uint32_t address);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddSecondaryDNSAddressPreference(uint8_t* buf, int bufsize,
+                                                                                 uint32_t address);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddPrimaryNBNSAddressPreference(uint8_t* buf, int bufsize,
+                                                                                uint32_t address);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddSecondaryNBNSAddressPreference(uint8_t* buf, int bufsize,
+                                                                                  uint32_t address);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddContextAPNName(uint8_t* buf, int bufsize, uint16_t length,
+                                                                  const uint8_t* data);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddIPAddressPreference(uint8_t* buf, int bufsize, uint32_t address);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddAuthenticationPreference(uint8_t* buf, int bufsize,
+                                                                            uint8_t preference);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddUsername(uint8_t* buf, int bufsize, uint16_t length,
+                                                            const uint8_t* data);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddPassword(uint8_t* buf, int bufsize, uint16_t length,
+                                                            const uint8_t* data);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddIPFamilyPreference(uint8_t* buf, int bufsize, uint8_t family);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddTechnologyPreference(uint8_t* buf, int bufsize,
+                                                                        uint8_t preference);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAdd3GPPConfiguredProfileIdentifier(uint8_t* buf, int bufsize,
+                                                                                   uint8_t profileIndex);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAdd3GPP2ConfiguredProfileIdentifier(uint8_t* buf, int bufsize,
+                                                                                    uint8_t profileIndex);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddExtendedTechnologyPreference(uint8_t* buf, int bufsize,
+                                                                                uint16_t preference);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddCallTypeIdentifier(uint8_t* buf, int bufsize, uint8_t callType);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceResp(const uint8_t* msg, int len, QmiResult* result, uint32_t* handle);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceRespGetCallEndReason(const uint8_t* msg, int len, uint16_t* reason);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceRespGetVerboseCallEndReason(const uint8_t* msg, int len, uint16_t* type,
+                                                                         uint16_t* reason);
+ZOVQMI_API int zovQMIWDSStopNetworkInterfaceReq(uint8_t* buf, int bufsize, uint32_t handle);
+ZOVQMI_API int zovQMIWDSStopNetworkInterfaceResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSGetPktSrvcStatusReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGetPktSrvcStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status);
+ZOVQMI_API int zovQMIWDSPktSrvcStatusIND(const uint8_t* msg, int len, uint8_t* status, uint8_t* second);
+ZOVQMI_API int zovQMIWDSPktSrvcStatusINDGetCallEndReason(const uint8_t* msg, int len, uint16_t* reason);
+ZOVQMI_API int zovQMIWDSPktSrvcStatusINDGetVerboseCallEndReason(const uint8_t* msg, int len, uint16_t* type,
+                                                                uint16_t* reason);
+ZOVQMI_API int zovQMIWDSPktSrvcStatusINDGetIPFamily(const uint8_t* msg, int len, uint8_t* family);
+ZOVQMI_API int zovQMIWDSGetCurrentChannelRateReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGetCurrentChannelRateResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* rates);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsReq(uint8_t* buf, int bufsize, uint32_t mask);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetTxPacketsOK(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetRxPacketsOK(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetTxPacketsErrors(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetRxPacketsErrors(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetTxOverflows(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetRxOverflows(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetTxBytesOK(const uint8_t* msg, int len, uint64_t* count);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetRxBytesOK(const uint8_t* msg, int len, uint64_t* count);
+ZOVQMI_API int zovQMIWDSGoDormantReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGoDormantResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSGoActiveReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGoActiveResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSCreateProfileReq(uint8_t* buf, int bufsize, uint8_t profileType);
+ZOVQMI_API int zovQMIWDSCreateProfileResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* profileType,
+                                          uint8_t* profileIndex);
+ZOVQMI_API int zovQMIWDSModifyProfileSettingsReq(uint8_t* buf, int bufsize, uint8_t profileType,
+                                                 uint8_t profileIndex);
+ZOVQMI_API int zovQMIWDSModifyProfileSettingsResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSDeleteProfileReq(uint8_t* buf, int bufsize, uint8_t profileType, uint8_t profileIndex);
+ZOVQMI_API int zovQMIWDSDeleteProfileResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSGetProfileListReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGetProfileListResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
+                                           WDSProfileListEntry* list);
+ZOVQMI_API int zovQMIWDSGetProfileSettingsReq(uint8_t* buf, int bufsize, uint8_t profileType, uint8_t profileIndex);
+ZOVQMI_API int zovQMIWDSGetProfileSettingsResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSGetDefaultSettingsReq(uint8_t* buf, int bufsize, uint8_t profileType);
+ZOVQMI_API int zovQMIWDSGetDefaultSettingsResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSProfileReqAddProfileName(uint8_t* buf, int bufsize, uint16_t length, const uint8_t* data);
+ZOVQMI_API int zovQMIWDSProfileRespGetProfileName(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
+                                                  uint8_t* data);
+ZOVQMI_API int zovQMIWDSProfileReqAddPDPType(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPDPType(const uint8_t* msg, int len, uint16_t messageId, uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddPDPHeaderCompression(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPDPHeaderCompression(const uint8_t* msg, int len, uint16_t messageId,
+                                                           uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddPDPDataCompression(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPDPDataCompression(const uint8_t* msg, int len, uint16_t messageId,
+                                                         uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddAPNName(uint8_t* buf, int bufsize, uint16_t length, const uint8_t* data);
+ZOVQMI_API int zovQMIWDSProfileRespGetAPNName(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
+                                              uint8_t* data);
+ZOVQMI_API int zovQMIWDSProfileReqAddPrimaryDNSIPv4AddressPreference(uint8_t* buf, int bufsize, uint32_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPrimaryDNSIPv4AddressPreference(const uint8_t* msg, int len,
+                                                                      uint16_t messageId, uint32_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddSecondaryDNSIPv4AddressPreference(uint8_t* buf, int bufsize, uint32_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetSecondaryDNSIPv4AddressPreference(const uint8_t* msg, int len,
+                                                                        uint16_t messageId, uint32_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddUMTSRequestedQoS(uint8_t* buf, int bufsize, const uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileRespGetUMTSRequestedQoS(const uint8_t* msg, int len, uint16_t messageId,
+                                                       uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileReqAddUMTSMinimumQoS(uint8_t* buf, int bufsize, const uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileRespGetUMTSMinimumQoS(const uint8_t* msg, int len, uint16_t messageId,
+                                                     uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileReqAddGPRSRequestedQoS(uint8_t* buf, int bufsize, const uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileRespGetGPRSRequestedQoS(const uint8_t* msg, int len, uint16_t messageId,
+                                                       uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileReqAddGPRSMinimumQoS(uint8_t* buf, int bufsize, const uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileRespGetGPRSMinimumQoS(const uint8_t* msg, int len, uint16_t messageId,
+                                                     uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileReqAddUsername(uint8_t* buf, int bufsize, uint16_t length, const uint8_t* data);
+ZOVQMI_API int zovQMIWDSProfileRespGetUsername(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
+                                               uint8_t* data);
+ZOVQMI_API int zovQMIWDSProfileReqAddPassword(uint8_t* buf, int bufsize, uint16_t length, const uint8_t* data);
+ZOVQMI_API int zovQMIWDSProfileRespGetPassword(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
+                                               uint8_t* data);
+ZOVQMI_API int zovQMIWDSProfileReqAddAuthenticationPreference(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetAuthenticationPreference(const uint8_t* msg, int len, uint16_t messageId,
+                                                               uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddIPv4AddressPreference(uint8_t* buf, int bufsize, uint32_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetIPv4AddressPreference(const uint8_t* msg, int len, uint16_t messageId,
+                                                            uint32_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddPCSCFAddressUsingPCOFlag(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPCSCFAddressUsingPCOFlag(const uint8_t* msg, int len, uint16_t messageId,
+                                                               uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddPDPAccessControlFlag(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPDPAccessControlFlag(const uint8_t* msg, int len, uint16_t messageId,
+                                                           uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddPCSCFAddressUsingDHCPFlag(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPCSCFAddressUsingDHCPFlag(const uint8_t* msg, int len, uint16_t messageId,
+                                                                uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddIMCNFlag(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetIMCNFlag(const uint8_t* msg, int len, uint16_t messageId, uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddTFTFilterID1(uint8_t* buf, int bufsize, const uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileRespGetTFTFilterID1(const uint8_t* msg, int len, uint16_t messageId, uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileReqAddTFTFilterID2(uint8_t* buf, int bufsize, const uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileRespGetTFTFilterID2(const uint8_t* msg, int len, uint16_t messageId, uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileReqAddPDPContextNumber(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPDPContextNumber(const uint8_t* msg, int len, uint16_t messageId,
+                                                       uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddPDPContextSecondaryFlag(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPDPContextSecondaryFlag(const uint8_t* msg, int len, uint16_t messageId,
+                                                              uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddPDPContextPrimaryID(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPDPContextPrimaryID(const uint8_t* msg, int len, uint16_t messageId,
+                                                          uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddPDPContextIPv6Address(uint8_t* buf, int bufsize, const uint8_t* address);
+ZOVQMI_API int zovQMIWDSProfileRespGetPDPContextIPv6Address(const uint8_t* msg, int len, uint16_t messageId,
+                                                            uint8_t* address);
+ZOVQMI_API int zovQMIWDSProfileReqAddPrimaryIPv6DNSAddress(uint8_t* buf, int bufsize, const uint8_t* address);
+ZOVQMI_API int zovQMIWDSProfileRespGetPrimaryIPv6DNSAddress(const uint8_t* msg, int len, uint16_t messageId,
+                                                            uint8_t* address);
+ZOVQMI_API int zovQMIWDSProfileReqAddSecondaryIPv6DNSAddress(uint8_t* buf, int bufsize, const uint8_t* address);
+ZOVQMI_API int zovQMIWDSProfileRespGetSecondaryIPv6DNSAddress(const uint8_t* msg, int len, uint16_t messageId,
+                                                              uint8_t* address);
+ZOVQMI_API int zovQMIWDSProfileReqAddIPv4AddressAlloc(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetIPv4AddressAlloc(const uint8_t* msg, int len, uint16_t messageId,
+                                                       uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddLTERequestedQoS(uint8_t* buf, int bufsize, const uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileRespGetLTERequestedQoS(const uint8_t* msg, int len, uint16_t messageId,
+                                                      uint8_t* record);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsReqAddRequestedSettings(uint8_t* buf, int bufsize, uint32_t mask);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetProfileIdentifier(const uint8_t* msg, int len, uint8_t* profileType,
+                                                                   uint8_t* profileIndex);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetIPv4GatewayAddress(const uint8_t* msg, int len, uint32_t* address);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetIPv4SubnetMask(const uint8_t* msg, int len, uint32_t* mask);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetPCSCFAddressUsingPCOFlag(const uint8_t* msg, int len, uint8_t* flag);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetPCSCFIPv4ServerAddressList(const uint8_t* msg, int len,
+                                                                            uint8_t* count, uint32_t* list);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetPCSCFFQDNList(const uint8_t* msg, int len, uint8_t* count,
+                                                               WDSNameListEntry* list);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetIPv6Address(const uint8_t* msg, int len, uint8_t* address,
+                                                             uint8_t* prefixLength);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetIPv6GatewayAddress(const uint8_t* msg, int len, uint8_t* address,
+                                                                    uint8_t* prefixLength);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetPrimaryIPv6DNSAddress(const uint8_t* msg, int len, uint8_t* address);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetSecondaryIPv6DNSAddress(const uint8_t* msg, int len,
+                                                                         uint8_t* address);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetMTU(const uint8_t* msg, int len, uint32_t* mtu);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetDomainNameList(const uint8_t* msg, int len, uint8_t* count,
+                                                                WDSNameListEntry* list);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetIPfamily(const uint8_t* msg, int len, uint8_t* family);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetIMCNFlag(const uint8_t* msg, int len, uint8_t* flag);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetTechnologyName(const uint8_t* msg, int len, uint16_t* name);
+ZOVQMI_API int zovQMIWDSSetMIPModeReq(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIWDSSetMIPModeResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSGetMIPModeReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGetMIPModeResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* mode);
+ZOVQMI_API int zovQMIWDSGetDormancyStatusReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGetDormancyStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status);
+ZOVQMI_API int zovQMIWDSGetCallDurationReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGetCallDurationResp(const uint8_t* msg, int len, QmiResult* result, uint64_t* duration);
+ZOVQMI_API int zovQMIWDSGetCallDurationRespGetLastCallDuration(const uint8_t* msg, int len, uint64_t* duration);
+ZOVQMI_API int zovQMIWDSGetCallDurationRespGetActiveDuration(const uint8_t* msg, int len, uint64_t* duration);
+ZOVQMI_API int zovQMIWDSGetCallDurationRespGetLastCallActiveDuration(const uint8_t* msg, int len, uint64_t* duration);
+ZOVQMI_API int zovQMIWDSGetCurrentDataBearerTechnologyReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGetCurrentDataBearerTechnologyResp(const uint8_t* msg, int len, QmiResult* result,
+                                                           uint8_t* technology, uint32_t* first, uint32_t* second);
+ZOVQMI_API int zovQMIWDSGetDefaultProfileNumReq(uint8_t* buf, int bufsize, uint8_t first, uint8_t second);
+ZOVQMI_API int zovQMIWDSGetDefaultProfileNumResp(const uint8_t* msg, int len, QmiResult* result,
+                                                 uint8_t* profileNumber);
+ZOVQMI_API int zovQMIWDSSetDefaultProfileNumReq(uint8_t* buf, int bufsize, uint8_t first, uint8_t second,
+                                                uint8_t profileNumber);
+ZOVQMI_API int zovQMIWDSSetDefaultProfileNumResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSSetClientIPFamilyPrefReq(uint8_t* buf, int bufsize, uint8_t ipFamily);
+ZOVQMI_API int zovQMIWDSSetClientIPFamilyPrefResp(const uint8_t* msg, int len, QmiResult* result);
+
 /* ------------------------------------------------------------ end WDS -- */
 
 
