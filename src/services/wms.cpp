@@ -6,6 +6,8 @@
 // multi-byte fields are little-endian on every host, followed by the raw
 // bytes.  Each function reads or writes only the head fields its message
 // carries; the caller sizes the record for the raw bytes.
+#include <stddef.h>
+
 #include "msg/pattern.h"
 
 using namespace zq;
@@ -13,15 +15,13 @@ using namespace zq;
 namespace {
 
 // Byte offsets of the WMSRawMessage head.
-enum : size_t {
-    kRouteFlag = 0,
-    kRouteReference = 1,
-    kMemoryStore = 5,
-    kMessageTag = 6,
-    kMessageFormat = 7,
-    kRawLength = 8,
-    kRawData = 10,
-};
+constexpr size_t kRouteFlag = offsetof(WMSRawMessage, routeFlag);
+constexpr size_t kRouteReference = offsetof(WMSRawMessage, routeReference);
+constexpr size_t kMemoryStore = offsetof(WMSRawMessage, memoryStore);
+constexpr size_t kMessageTag = offsetof(WMSRawMessage, messageTag);
+constexpr size_t kMessageFormat = offsetof(WMSRawMessage, messageFormat);
+constexpr size_t kRawLength = offsetof(WMSRawMessage, length);
+constexpr size_t kRawData = offsetof(WMSRawMessage, data);
 
 const uint8_t* rawBytes(const WMSRawMessage* m) { return reinterpret_cast<const uint8_t*>(m); }
 uint16_t rawLength(const WMSRawMessage* m) { return ld16(rawBytes(m) + kRawLength); }
@@ -54,9 +54,9 @@ auto gwCause(uint16_t* cause, uint8_t* extra) {
 }
 
 // Byte offsets of the two word pairs inside a WMSBroadcastConfigEntry.
-constexpr size_t kWords3GPP = 0;
-constexpr size_t kWords3GPP2 = 4;
-constexpr size_t kSelection = 8;
+constexpr size_t kWords3GPP = offsetof(WMSBroadcastConfigEntry, first3GPP);
+constexpr size_t kWords3GPP2 = offsetof(WMSBroadcastConfigEntry, first3GPP2);
+constexpr size_t kSelection = offsetof(WMSBroadcastConfigEntry, selection);
 constexpr size_t kEntrySize = sizeof(WMSBroadcastConfigEntry);
 
 // Set broadcast config items: u16 count, then per entry the two words of one
