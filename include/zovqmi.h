@@ -271,6 +271,7 @@ ZOVQMI_API int zovQMIWMSGetMessageProtocolResp(const uint8_t* msg, int len, QmiR
 ZOVQMI_API int zovQMIWMSListMessagesReq(uint8_t* buf, int bufsize, uint8_t memoryStore);
 ZOVQMI_API int zovQMIWMSListMessagesReqAddRequestedTag(uint8_t* buf, int bufsize, uint8_t tag);
 ZOVQMI_API int zovQMIWMSListMessagesReqAddMessageMode(uint8_t* buf, int bufsize, uint8_t mode);
+/* The count is 32 bits wide; indexes and tags are optional and must hold *count entries. */
 ZOVQMI_API int zovQMIWMSListMessagesResp(const uint8_t* msg, int len, QmiResult* result, uint32_t* count,
                                          uint32_t* indexes, uint8_t* tags);
 ZOVQMI_API int zovQMIWMSSendACKReq(uint8_t* buf, int bufsize, uint32_t reference, uint8_t value1, uint8_t value2);
@@ -292,8 +293,10 @@ ZOVQMI_API int zovQMIWMSGetRoutesReq(uint8_t* buf, int bufsize);
 ZOVQMI_API int zovQMIWMSGetRoutesResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* count, uint8_t* routes);
 ZOVQMI_API int zovQMIWMSGetRoutesRespGetTransferStatusReport(const uint8_t* msg, int len, uint8_t* report);
 ZOVQMI_API int zovQMIWMSGetSMSCAddressReq(uint8_t* buf, int bufsize);
+/* type receives 3 bytes; address (optional) receives *length bytes. */
 ZOVQMI_API int zovQMIWMSGetSMSCAddressResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* type,
                                            uint8_t* length, uint8_t* address);
+/* A null address with a non-zero length is refused (-1). */
 ZOVQMI_API int zovQMIWMSSetSMSCAddressReq(uint8_t* buf, int bufsize, uint16_t length, const void* address);
 ZOVQMI_API int zovQMIWMSSetSMSCAddressReqAddSMSCAddressType(uint8_t* buf, int bufsize, uint16_t length,
                                                             const void* type);
