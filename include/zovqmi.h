@@ -888,7 +888,148 @@ ZOVQMI_API int zovQMINASDDTMIND(const uint8_t* msg, int len, uint8_t* first, uin
 
 
 /* ---------------------------------------------------------------- WMS -- */
-/* (WMS declarations) */
+/* Records of the messaging service. */
+#pragma pack(push, 1)
+
+/* A raw short message as it crosses the interface: a 10-byte head followed by
+ * the raw bytes.  Multi-byte fields are little-endian bytes on every host.
+ * Each function uses only some head fields: the event report's transfer-route
+ * item writes the route flag and reference, raw write reads the memory store,
+ * raw read writes the tag, and format and length travel with every raw
+ * message.  The caller sizes the record for `length` bytes of `data`. */
+typedef struct WMSRawMessage {
+    uint8_t routeFlag;
+    uint32_t routeReference;
+    uint8_t memoryStore;
+    uint8_t messageTag;
+    uint8_t messageFormat;
+    uint16_t length;
+    uint8_t data[];
+} WMSRawMessage;
+
+/* One broadcast configuration entry (9 bytes), shared by the 3GPP and 3GPP2
+ * functions: the 3GPP ones use the first word pair and the selection byte,
+ * the 3GPP2 ones the second pair and the selection byte. */
+typedef struct WMSBroadcastConfigEntry {
+    uint16_t first3GPP;
+    uint16_t second3GPP;
+    uint16_t first3GPP2;
+    uint16_t second3GPP2;
+    uint8_t selection;
+} WMSBroadcastConfigEntry;
+
+#pragma pack(pop)
+
+ZOVQMI_API int zovQMIWMSResetReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWMSResetResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSSetEventReportReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWMSSetEventReportReqAddNewMTMessageIndicator(uint8_t* buf, int bufsize, uint8_t indicator);
+ZOVQMI_API int zovQMIWMSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSEventReportIND(const uint8_t* msg, int len);
+ZOVQMI_API int zovQMIWMSEventReportINDGetMTMessage(const uint8_t* msg, int len, uint8_t* memoryStore,
+                                                   uint32_t* memoryIndex);
+ZOVQMI_API int zovQMIWMSEventReportINDGetTransferRouteMTMessage(const uint8_t* msg, int len, WMSRawMessage* message);
+ZOVQMI_API int zovQMIWMSEventReportINDGetMessageMode(const uint8_t* msg, int len, uint8_t* mode);
+ZOVQMI_API int zovQMIWMSRawSendReq(uint8_t* buf, int bufsize, const WMSRawMessage* message);
+ZOVQMI_API int zovQMIWMSRawSendReqAddForceOnDC(uint8_t* buf, int bufsize, uint8_t first, uint8_t second);
+ZOVQMI_API int zovQMIWMSRawSendReqAddFollowOnDC(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWMSRawSendReqAddLinkControl(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWMSRawSendResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* messageId);
+ZOVQMI_API int zovQMIWMSRawSendRespGetCauseCode(const uint8_t* msg, int len, uint16_t* cause);
+ZOVQMI_API int zovQMIWMSRawSendRespGetErrorClass(const uint8_t* msg, int len, uint8_t* errorClass);
+ZOVQMI_API int zovQMIWMSRawSendRespGetGWCauseInformation(const uint8_t* msg, int len, uint16_t* cause, uint8_t* extra);
+ZOVQMI_API int zovQMIWMSRawWriteReq(uint8_t* buf, int bufsize, const WMSRawMessage* message);
+ZOVQMI_API int zovQMIWMSRawWriteResp(const uint8_t* msg, int len, QmiResult* result, uint32_t* memoryIndex);
+ZOVQMI_API int zovQMIWMSRawReadReq(uint8_t* buf, int bufsize, uint8_t memoryStore, uint32_t memoryIndex);
+ZOVQMI_API int zovQMIWMSRawReadReqAddMessageMode(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIWMSRawReadResp(const uint8_t* msg, int len, QmiResult* result, WMSRawMessage* message);
+ZOVQMI_API int zovQMIWMSModifyTagReq(uint8_t* buf, int bufsize, uint8_t memoryStore, uint32_t memoryIndex, uint8_t tag);
+ZOVQMI_API int zovQMIWMSModifyTagReqAddMessageMode(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIWMSModifyTagResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSDeleteReq(uint8_t* buf, int bufsize, uint8_t memoryStore);
+ZOVQMI_API int zovQMIWMSDeleteReqAddMemoryIndex(uint8_t* buf, int bufsize, uint32_t memoryIndex);
+ZOVQMI_API int zovQMIWMSDeleteReqAddMessageTag(uint8_t* buf, int bufsize, uint8_t tag);
+ZOVQMI_API int zovQMIWMSDeleteReqAddMessageMode(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIWMSDeleteResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSGetMessageProtocolReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWMSGetMessageProtocolResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* protocol);
+ZOVQMI_API int zovQMIWMSListMessagesReq(uint8_t* buf, int bufsize, uint8_t memoryStore);
+ZOVQMI_API int zovQMIWMSListMessagesReqAddRequestedTag(uint8_t* buf, int bufsize, uint8_t tag);
+ZOVQMI_API int zovQMIWMSListMessagesReqAddMessageMode(uint8_t* buf, int bufsize, uint8_t mode);
+/* The count is 32 bits wide; indexes and tags are optional and must hold *count entries. */
+ZOVQMI_API int zovQMIWMSListMessagesResp(const uint8_t* msg, int len, QmiResult* result, uint32_t* count,
+                                         uint32_t* indexes, uint8_t* tags);
+ZOVQMI_API int zovQMIWMSSendACKReq(uint8_t* buf, int bufsize, uint32_t reference, uint8_t value1, uint8_t value2);
+ZOVQMI_API int zovQMIWMSSendACKReqAdd3GPP2FailureInformation(uint8_t* buf, int bufsize, uint8_t first, uint8_t second);
+ZOVQMI_API int zovQMIWMSSendACKReqAdd3GPPFailureInformation(uint8_t* buf, int bufsize, uint8_t first, uint8_t second);
+ZOVQMI_API int zovQMIWMSSendACKResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSSendFromMemStoreReq(uint8_t* buf, int bufsize, uint8_t memoryStore, uint32_t memoryIndex,
+                                            uint8_t mode);
+ZOVQMI_API int zovQMIWMSSendFromMemStoreResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSSendFromMemStoreRespGetMessageID(const uint8_t* msg, int len, uint16_t* messageId);
+ZOVQMI_API int zovQMIWMSSendFromMemStoreRespGetCauseCode(const uint8_t* msg, int len, uint16_t* cause);
+ZOVQMI_API int zovQMIWMSSendFromMemStoreRespGetErrorClass(const uint8_t* msg, int len, uint16_t* errorClass);
+ZOVQMI_API int zovQMIWMSSendFromMemStoreRespGetGWCauseInformation(const uint8_t* msg, int len, uint16_t* cause,
+                                                                  uint8_t* extra);
+ZOVQMI_API int zovQMIWMSSetRoutesReq(uint8_t* buf, int bufsize, uint16_t count, const uint8_t* routes);
+ZOVQMI_API int zovQMIWMSSetRoutesReqAddTransferStatusReport(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMIWMSSetRoutesResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSGetRoutesReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWMSGetRoutesResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* count, uint8_t* routes);
+ZOVQMI_API int zovQMIWMSGetRoutesRespGetTransferStatusReport(const uint8_t* msg, int len, uint8_t* report);
+ZOVQMI_API int zovQMIWMSGetSMSCAddressReq(uint8_t* buf, int bufsize);
+/* type receives 3 bytes; address (optional) receives *length bytes. */
+ZOVQMI_API int zovQMIWMSGetSMSCAddressResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* type,
+                                           uint8_t* length, uint8_t* address);
+/* A null address with a non-zero length is refused (-1). */
+ZOVQMI_API int zovQMIWMSSetSMSCAddressReq(uint8_t* buf, int bufsize, uint16_t length, const void* address);
+ZOVQMI_API int zovQMIWMSSetSMSCAddressReqAddSMSCAddressType(uint8_t* buf, int bufsize, uint16_t length,
+                                                            const void* type);
+ZOVQMI_API int zovQMIWMSSetSMSCAddressResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSGetStoreMaxSizeReq(uint8_t* buf, int bufsize, uint8_t memoryStore);
+ZOVQMI_API int zovQMIWMSGetStoreMaxSizeReqAddMessageMode(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIWMSGetStoreMaxSizeResp(const uint8_t* msg, int len, QmiResult* result, uint32_t* maxSize);
+ZOVQMI_API int zovQMIWMSGetStoreMaxSizeRespGetMemoryAvailable(const uint8_t* msg, int len, uint32_t* available);
+ZOVQMI_API int zovQMIWMSSetRetryPeriodReq(uint8_t* buf, int bufsize, uint32_t period);
+ZOVQMI_API int zovQMIWMSSetRetryPeriodResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSSetRetryIntervalReq(uint8_t* buf, int bufsize, uint32_t interval);
+ZOVQMI_API int zovQMIWMSSetRetryIntervalResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSSetDCDisconnectTimerReq(uint8_t* buf, int bufsize, uint32_t timer);
+ZOVQMI_API int zovQMIWMSSetDCDisconnectTimerResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSSetMemoryStatusReq(uint8_t* buf, int bufsize, uint8_t status);
+ZOVQMI_API int zovQMIWMSSetMemoryStatusResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSSetBroadcastActivationReq(uint8_t* buf, int bufsize, uint8_t first, uint8_t second);
+ZOVQMI_API int zovQMIWMSSetBroadcastActivationResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSSetBroadcastConfigReq(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIWMSSetBroadcastConfigReqAdd3GPPBroadcastConfigurationInformation(uint8_t* buf, int bufsize,
+                                                                                      uint16_t count,
+                                                                                      const WMSBroadcastConfigEntry* entries);
+ZOVQMI_API int zovQMIWMSSetBroadcastConfigReqAdd3GPP2BroadcastConfigurationInformation(uint8_t* buf, int bufsize,
+                                                                                       uint16_t count,
+                                                                                       const WMSBroadcastConfigEntry* entries);
+ZOVQMI_API int zovQMIWMSSetBroadcastConfigResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSGetBroadcastConfigReq(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIWMSGetBroadcastConfigResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSGetBroadcastConfigRespGet3GPPBroadcastConfigurationInformation(const uint8_t* msg, int len,
+                                                                                       uint8_t* activation,
+                                                                                       uint16_t* count,
+                                                                                       WMSBroadcastConfigEntry* entries);
+ZOVQMI_API int zovQMIWMSGetBroadcastConfigRespGet3GPP2BroadcastConfigurationInformation(const uint8_t* msg, int len,
+                                                                                        uint8_t* activation,
+                                                                                        uint16_t* count,
+                                                                                        WMSBroadcastConfigEntry* entries);
+ZOVQMI_API int zovQMIWMSMemoryFullIND(const uint8_t* msg, int len, uint8_t* first, uint8_t* second);
+ZOVQMI_API int zovQMIWMSGetDomainPrefReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWMSGetDomainPrefResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* preference);
+ZOVQMI_API int zovQMIWMSSetDomainPrefReq(uint8_t* buf, int bufsize, uint8_t preference);
+ZOVQMI_API int zovQMIWMSSetDomainPrefResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSGetMessageWaitingReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWMSGetMessageWaitingResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
+                                              uint8_t* first, uint8_t* second, uint8_t* third);
+ZOVQMI_API int zovQMIWMSMessageWaitingIND(const uint8_t* msg, int len, uint8_t* count, uint8_t* first, uint8_t* second,
+                                          uint8_t* third);
+ZOVQMI_API int zovQMIWMSSetPrimaryClientReq(uint8_t* buf, int bufsize, uint8_t primary);
+ZOVQMI_API int zovQMIWMSSetPrimaryClientResp(const uint8_t* msg, int len, QmiResult* result);
 /* ------------------------------------------------------------ end WMS -- */
 
 
