@@ -815,4 +815,368 @@ TEST(PbmIndications, RecordUpdateFillsItsFourOutputs) {
     EXPECT_EQ(a, 0x01);
 }
 
+// ------------------------------------------------- state and indications --
+
+TEST(PbmIndications, RefreshReadyAndHiddenStatusFillTheirOutputs) {
+    Bytes refresh = svcMessage(0x000A, {tlv(0x01, cat({{0x01}, le16(0x0203), {0x04}}))}, 0, 0x04);
+    uint8_t a = 0, c = 0;
+    uint16_t b = 0;
+    EXPECT_EQ(zovQMIPBMRefreshIND(refresh.data(), size(refresh), &a, &b, &c), 7);
+    EXPECT_EQ(a, 0x01);
+    EXPECT_EQ(b, 0x0203);
+    EXPECT_EQ(c, 0x04);
+    EXPECT_EQ(zovQMIPBMRefreshIND(refresh.data(), size(refresh), nullptr, &b, &c), -1);
+    EXPECT_EQ(zovQMIPBMRefreshIND(refresh.data(), size(refresh), &a, nullptr, &c), -1);
+    EXPECT_EQ(zovQMIPBMRefreshIND(refresh.data(), size(refresh), &a, &b, nullptr), -1);
+
+    Bytes ready = svcMessage(0x000B, {tlv(0x01, cat({{0x05}, le16(0x0607)}))}, 0, 0x04);
+    EXPECT_EQ(zovQMIPBMPBReadyIND(ready.data(), size(ready), &a, &b), 6);
+    EXPECT_EQ(a, 0x05);
+    EXPECT_EQ(b, 0x0607);
+    EXPECT_EQ(zovQMIPBMPBReadyIND(ready.data(), size(ready), nullptr, &b), -1);
+    EXPECT_EQ(zovQMIPBMPBReadyIND(ready.data(), size(ready), &a, nullptr), -1);
+
+    Bytes status = svcMessage(0x0013, {tlv(0x01, {0x08, 0x09})}, 0, 0x04);
+    EXPECT_EQ(zovQMIPBMHiddenRecordStatusIND(status.data(), size(status), &a, &c), 5);
+    EXPECT_EQ(a, 0x08);
+    EXPECT_EQ(c, 0x09);
+    EXPECT_EQ(zovQMIPBMHiddenRecordStatusIND(status.data(), size(status), nullptr, &c), -1);
+    EXPECT_EQ(zovQMIPBMHiddenRecordStatusIND(status.data(), size(status), &a, nullptr), -1);
+    EXPECT_EQ(zovQMIPBMHiddenRecordStatusIND(nullptr, size(status), &a, &c), -1);
+
+    // The wrong message, a missing item 0x01 and a cut item.
+    EXPECT_EQ(zovQMIPBMRefreshIND(ready.data(), size(ready), &a, &b, &c), -2);
+    EXPECT_EQ(zovQMIPBMPBReadyIND(status.data(), size(status), &a, &b), -2);
+    EXPECT_EQ(zovQMIPBMHiddenRecordStatusIND(refresh.data(), size(refresh), &a, &c), -2);
+    Bytes noItem = svcMessage(0x000B, {tlv(0x10, {0})});
+    EXPECT_EQ(zovQMIPBMPBReadyIND(noItem.data(), size(noItem), &a, &b), -3);
+    Bytes noItem2 = svcMessage(0x000A, {tlv(0x10, {0})});
+    EXPECT_EQ(zovQMIPBMRefreshIND(noItem2.data(), size(noItem2), &a, &b, &c), -3);
+    Bytes noItem3 = svcMessage(0x0013, {tlv(0x10, {0})});
+    EXPECT_EQ(zovQMIPBMHiddenRecordStatusIND(noItem3.data(), size(noItem3), &a, &c), -3);
+    Bytes cut = svcMessage(0x000B, {tlv(0x01, {0x0F, 0x0F})});
+    EXPECT_EQ(zovQMIPBMPBReadyIND(cut.data(), size(cut), &a, &b), ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(a, 0x08);
+    EXPECT_EQ(b, 0x0607);
+}
+
+TEST(PbmResponses, GroupIdentifierAndPhonebookState) {
+    Bytes group = svcMessage(0x0010, {result(), tlv(0x10, {0x0A, 0x0B})});
+    uint8_t a = 0, c = 0;
+    uint16_t b = 0;
+    EXPECT_EQ(zovQMIPBMSetGroupInfoRespGetGroupIdentifier(group.data(), size(group), &a, &c), 2);
+    EXPECT_EQ(a, 0x0A);
+    EXPECT_EQ(c, 0x0B);
+    EXPECT_EQ(zovQMIPBMSetGroupInfoRespGetGroupIdentifier(group.data(), size(group), nullptr, &c), -1);
+    EXPECT_EQ(zovQMIPBMSetGroupInfoRespGetGroupIdentifier(group.data(), size(group), &a, nullptr), -1);
+    Bytes state = svcMessage(0x0011, {result(), tlv(0x10, cat({{0x01}, le16(0xA0B0), {0x02}}))});
+    EXPECT_EQ(zovQMIPBMGetPBStateRespGetPhonebookState(state.data(), size(state), &a, &b, &c), 4);
+    EXPECT_EQ(a, 0x01);
+    EXPECT_EQ(b, 0xA0B0);
+    EXPECT_EQ(c, 0x02);
+    EXPECT_EQ(zovQMIPBMGetPBStateRespGetPhonebookState(state.data(), size(state), nullptr, &b, &c), -1);
+    EXPECT_EQ(zovQMIPBMGetPBStateRespGetPhonebookState(state.data(), size(state), &a, nullptr, &c), -1);
+    EXPECT_EQ(zovQMIPBMGetPBStateRespGetPhonebookState(state.data(), size(state), &a, &b, nullptr), -1);
+    EXPECT_EQ(zovQMIPBMGetPBStateRespGetPhonebookState(group.data(), size(group), &a, &b, &c), -2);
+    Bytes absent = svcMessage(0x0011, {result()});
+    EXPECT_EQ(zovQMIPBMGetPBStateRespGetPhonebookState(absent.data(), size(absent), &a, &b, &c), -3);
+    Bytes absent2 = svcMessage(0x0010, {result()});
+    EXPECT_EQ(zovQMIPBMSetGroupInfoRespGetGroupIdentifier(absent2.data(), size(absent2), &a, &c), -3);
+}
+
+TEST(PbmIndications, AllPBInitDoneDeliversKeysAndWordsWhenAsked) {
+    Bytes value = cat({{2}, {0x01}, le16(0x1112), {0x02}, le16(0x2122)});
+    Bytes msg = svcMessage(0x000D, {tlv(0x01, value)}, 0, 0x04);
+    uint8_t count = 0;
+    uint8_t keys[3] = {0xEE, 0xEE, 0xEE};
+    uint16_t words[3] = {0xEEEE, 0xEEEE, 0xEEEE};
+    EXPECT_EQ(zovQMIPBMAllPBInitDoneIND(msg.data(), size(msg), &count, keys, words), 10);
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(Bytes(keys, keys + 3), Bytes({0x01, 0x02, 0xEE}));
+    EXPECT_EQ(words[0], 0x1112);
+    EXPECT_EQ(words[1], 0x2122);
+    EXPECT_EQ(words[2], 0xEEEE);
+    uint8_t keys2[2] = {0xEE, 0xEE};
+    uint16_t words2[2] = {0xEEEE, 0xEEEE};
+    EXPECT_EQ(zovQMIPBMAllPBInitDoneIND(msg.data(), size(msg), &count, nullptr, words2), 10);
+    EXPECT_EQ(words2[1], 0x2122);
+    EXPECT_EQ(zovQMIPBMAllPBInitDoneIND(msg.data(), size(msg), &count, keys2, nullptr), 10);
+    EXPECT_EQ(keys2[1], 0x02);
+    EXPECT_EQ(zovQMIPBMAllPBInitDoneIND(msg.data(), size(msg), nullptr, keys, words), -1);
+    // With neither array the entries are not read: a count beyond the buffer is fine.
+    Bytes cut = svcMessage(0x000D, {tlv(0x01, cat({{3}, {0x01}, le16(0x1112)}))});
+    EXPECT_EQ(zovQMIPBMAllPBInitDoneIND(cut.data(), size(cut), &count, nullptr, nullptr), 7);
+    EXPECT_EQ(count, 3);
+    count = 0xEE;
+    EXPECT_EQ(zovQMIPBMAllPBInitDoneIND(cut.data(), size(cut), &count, keys2, words2), ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(count, 0xEE);
+    Bytes noItem = svcMessage(0x000D, {tlv(0x10, {0})});
+    EXPECT_EQ(zovQMIPBMAllPBInitDoneIND(noItem.data(), size(noItem), &count, keys, words), -3);
+    Bytes other = svcMessage(0x000C, {tlv(0x01, {0})});
+    EXPECT_EQ(zovQMIPBMAllPBInitDoneIND(other.data(), size(other), &count, keys, words), -2);
+}
+
+// ------------------------------------------------------ emergency lists --
+
+struct FlatList {
+    const char* name;
+    int (*parse)(const uint8_t*, int, uint8_t*, PBMEmergencyNumber*);
+    uint16_t id;
+    uint8_t type;
+};
+
+const FlatList kFlatLists[] = {
+    {"EmergencyListIND", zovQMIPBMEmergencyListIND, 0x000C, 0x01},
+    {"EmergencyListINDGetNVEmergencyNumbers", zovQMIPBMEmergencyListINDGetNVEmergencyNumbers, 0x000C, 0x10},
+    {"GetEmergencyListRespGetHardCodedEmergencyNumbers", zovQMIPBMGetEmergencyListRespGetHardCodedEmergencyNumbers,
+     0x000E, 0x10},
+    {"GetEmergencyListRespGetNVEmergencyNumbers", zovQMIPBMGetEmergencyListRespGetNVEmergencyNumbers, 0x000E, 0x11},
+};
+
+// A message holding the flat list as item `type`; what the parser returns
+// for it (the TLV-area length for the indication, else the item's length).
+Bytes flatMessage(const FlatList& f, const Bytes& value, int* expected) {
+    Bytes msg = f.type == 0x01 ? svcMessage(f.id, {tlv(0x01, value)}) : svcMessage(f.id, {result(), tlv(f.type, value)});
+    *expected = f.type == 0x01 ? 3 + size(value) : size(value);
+    return msg;
+}
+
+TEST(PbmEmergency, FlatListsStoreLengthAndNumberAndLeaveTheAttributeAlone) {
+    Bytes value = cat({{3}, wtext(str("112")), {0}, wtext(str("999888"))});
+    for (const FlatList& f : kFlatLists) {
+        SCOPED_TRACE(f.name);
+        int expected = 0;
+        Bytes msg = flatMessage(f, value, &expected);
+        uint8_t count = 0;
+        Bytes numbers(32, 0xEE);
+        auto* list = reinterpret_cast<PBMEmergencyNumber*>(numbers.data());
+        EXPECT_EQ(f.parse(msg.data(), size(msg), &count, list), expected);
+        EXPECT_EQ(count, 3);
+        // The empty second number advances the walk by its length byte only.
+        EXPECT_EQ(numbers, cat({{0xEE, 3}, str("112"), fill(3, 0xEE), {0xEE, 0}, fill(6, 0xEE), {0xEE, 6}, str("999888"),
+                                fill(8, 0xEE)}));
+        EXPECT_EQ(f.parse(msg.data(), size(msg), nullptr, list), -1);
+        EXPECT_EQ(f.parse(nullptr, size(msg), &count, list), -1);
+    }
+}
+
+TEST(PbmEmergency, FlatListWithNullArrayStoresOnlyTheCount) {
+    Bytes value = {5, 3};  // the numbers are not read at all
+    for (const FlatList& f : kFlatLists) {
+        SCOPED_TRACE(f.name);
+        int expected = 0;
+        Bytes msg = flatMessage(f, value, &expected);
+        uint8_t count = 0;
+        EXPECT_EQ(f.parse(msg.data(), size(msg), &count, nullptr), expected);
+        EXPECT_EQ(count, 5);
+    }
+}
+
+TEST(PbmEmergency, FlatListAbsentOrCutByTheBuffer) {
+    Bytes cut = {2, 3, '1', '1', '2', 4, '9'};
+    for (const FlatList& f : kFlatLists) {
+        SCOPED_TRACE(f.name);
+        int expected = 0;
+        Bytes msg = flatMessage(f, cut, &expected);
+        uint8_t count = 0xEE;
+        Bytes numbers(16, 0xEE);
+        EXPECT_EQ(f.parse(msg.data(), size(msg), &count, reinterpret_cast<PBMEmergencyNumber*>(numbers.data())),
+                  ZOVQMI_ERR_MALFORMED);
+        EXPECT_EQ(count, 0xEE);
+        EXPECT_EQ(numbers, Bytes(16, 0xEE));
+        Bytes absent = svcMessage(f.id, {result(), tlv(0x15, {0})});
+        EXPECT_EQ(f.parse(absent.data(), size(absent), &count, nullptr), -3);
+        Bytes other = svcMessage(0x000D, {result(), tlv(f.type, {0})});
+        EXPECT_EQ(f.parse(other.data(), size(other), &count, nullptr), -2);
+    }
+}
+
+TEST(PbmEmergency, FlatListRunningOffsetIsEightBitsAndWraps) {
+    // 200 bytes, then 100 bytes: the running offset reaches 303, kept in 8
+    // bits as 47, so the third number's length is value byte 47 (inside the
+    // first number) and its bytes follow it.
+    Bytes first = seq(200, 0x10);
+    first[45] = 4;  // value byte 47
+    Bytes second = fill(100, 0xB0);
+    Bytes value = cat({{3}, wtext(first), wtext(second)});
+    ASSERT_EQ(value.size(), 303u);
+    ASSERT_EQ(value[47], 4);
+    for (const FlatList& f : kFlatLists) {
+        SCOPED_TRACE(f.name);
+        int expected = 0;
+        Bytes msg = flatMessage(f, value, &expected);
+        uint8_t count = 0;
+        Bytes numbers(256, 0xEE);
+        EXPECT_EQ(f.parse(msg.data(), size(msg), &count, reinterpret_cast<PBMEmergencyNumber*>(numbers.data())),
+                  expected);
+        // Lengths are used as they stand: each number runs on over the following elements.
+        Bytes want(256, 0xEE);
+        want = with(want, 1, wtext(first));
+        want = with(want, 9, wtext(second));
+        want = with(want, 17, cat({{4}, Bytes(value.begin() + 48, value.begin() + 52)}));
+        EXPECT_EQ(numbers, want);
+    }
+}
+
+struct NumberSets {
+    const char* name;
+    int (*parse)(const uint8_t*, int, PBMEmergencyNumberSets*);
+    uint16_t id;
+    uint8_t type;
+};
+
+const NumberSets kNumberSets[] = {
+    {"EmergencyListINDGetCardEmergencyNumbers", zovQMIPBMEmergencyListINDGetCardEmergencyNumbers, 0x000C, 0x11},
+    {"EmergencyListINDGetNetworkEmergencyNumbers", zovQMIPBMEmergencyListINDGetNetworkEmergencyNumbers, 0x000C, 0x12},
+    {"GetEmergencyListRespGetCardEmergencyNumbers", zovQMIPBMGetEmergencyListRespGetCardEmergencyNumbers, 0x000E, 0x12},
+    {"GetEmergencyListRespGetNetworkEmergencyNumbers", zovQMIPBMGetEmergencyListRespGetNetworkEmergencyNumbers, 0x000E,
+     0x13},
+};
+
+// One wire number of a set: attribute, length, bytes.
+Bytes setNumber(uint8_t attribute, const Bytes& number) { return cat({{attribute}, wtext(number)}); }
+
+TEST(PbmEmergency, NumberSetsStoreKeysCountsAndNumbersAndLeaveTheGapUntouched) {
+    Bytes value = cat({{2}, {0xA0, 2}, setNumber(0x01, str("112")), setNumber(0x02, {}), {0xA1, 1},
+                       setNumber(0x03, str("999888"))});
+    for (const NumberSets& f : kNumberSets) {
+        SCOPED_TRACE(f.name);
+        Bytes msg = svcMessage(f.id, {result(), tlv(0x01, {0}), tlv(f.type, value)});
+        Guarded<PBMEmergencyNumberSets> s;
+        EXPECT_EQ(f.parse(msg.data(), size(msg), s.get()), size(value));
+        Bytes want = with(Bytes(12745, 0xEE), 0, {2, 0xA0, 0xA1});
+        want = with(want, 451, {2, 1});
+        // The empty second number advances the walk by its two header bytes only.
+        want = with(want, 457, cat({{0x01, 3}, str("112")}));
+        want = with(want, 465, {0x02, 0});
+        want = with(want, 457 + 2048, cat({{0x03, 6}, str("999888")}));
+        EXPECT_EQ(s.bytes, want);
+        EXPECT_EQ(s.range(7, 444), fill(444, 0xEE));
+        EXPECT_EQ(f.parse(msg.data(), size(msg), nullptr), -1);
+        EXPECT_EQ(f.parse(nullptr, size(msg), s.get()), -1);
+        Bytes absent = svcMessage(f.id, {result(), tlv(0x01, {0})});
+        EXPECT_EQ(f.parse(absent.data(), size(absent), s.get()), -3);
+        Bytes other = svcMessage(0x000D, {result(), tlv(f.type, value)});
+        EXPECT_EQ(f.parse(other.data(), size(other), s.get()), -2);
+    }
+}
+
+TEST(PbmEmergency, NumberLongerThanItsElementIsWrittenIntoTheNextElement) {
+    Bytes value = cat({{1}, {0xA0, 1}, setNumber(0x01, seq(7))});
+    Bytes msg = svcMessage(0x000C, {tlv(0x11, value)});
+    Guarded<PBMEmergencyNumberSets> s;
+    EXPECT_EQ(zovQMIPBMEmergencyListINDGetCardEmergencyNumbers(msg.data(), size(msg), s.get()), size(value));
+    EXPECT_EQ(s.range(457, 10), cat({{0x01, 7}, seq(7), {0xEE}}));  // byte 464 is element 1's attribute
+}
+
+TEST(PbmEmergency, SeventhSetWithANumberWouldPassTheRecordsEndAndIsRefused) {
+    // Set 6's first number would start at byte 12745, just past the record.
+    Bytes value = {7};
+    for (int i = 0; i < 6; ++i) value = cat({value, {uint8_t(0xA0 + i), 0}});
+    Bytes fits = cat({value, {0xA6, 0}});
+    Bytes msg = svcMessage(0x000E, {result(), tlv(0x13, fits)});
+    Guarded<PBMEmergencyNumberSets> s;
+    EXPECT_EQ(zovQMIPBMGetEmergencyListRespGetNetworkEmergencyNumbers(msg.data(), size(msg), s.get()), size(fits));
+    EXPECT_EQ(s.bytes[7], 0xA6);  // a seventh key lands in the gap: counts are used as they stand
+    EXPECT_EQ(s.bytes[457], 0);   // and its count on set 0's first number
+    Bytes over = cat({value, {0xA6, 1}, setNumber(0x01, {})});
+    Bytes msg2 = svcMessage(0x000E, {result(), tlv(0x13, over)});
+    Guarded<PBMEmergencyNumberSets> s2;
+    EXPECT_EQ(zovQMIPBMGetEmergencyListRespGetNetworkEmergencyNumbers(msg2.data(), size(msg2), s2.get()),
+              ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(s2.bytes, Bytes(12745, 0xEE));
+}
+
+TEST(PbmEmergency, NumberSetCutByTheBufferWritesNothing) {
+    Bytes value = cat({{1}, {0xA0, 2}, setNumber(0x01, str("112")), {0x02, 5, '9'}});
+    Bytes msg = svcMessage(0x000C, {tlv(0x12, value)});
+    Guarded<PBMEmergencyNumberSets> s;
+    EXPECT_EQ(zovQMIPBMEmergencyListINDGetNetworkEmergencyNumbers(msg.data(), size(msg), s.get()),
+              ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(s.bytes, Bytes(12745, 0xEE));
+}
+
+// --------------------------------------------------------------- groups --
+
+TEST(PbmGroups, GroupsDataStoresKeysCountsIdsAndNames) {
+    Bytes value = cat({{2}, {0xB0, 2}, {0x05}, wtext(str("Family")), {0x06}, wtext({}), {0xB1, 1}, {0x07},
+                       wtext(str("Work"))});
+    Bytes msg = svcMessage(0x000F, {result(), tlv(0x10, value)});
+    Guarded<PBMGroupsData> g;
+    EXPECT_EQ(zovQMIPBMGetAllGroupsRespGetGroupsData(msg.data(), size(msg), g.get()), size(value));
+    Bytes want = with(Bytes(58573, 0xEE), 0, {2, 0xB0, 0xB1});
+    want = with(want, 7, {2, 1});
+    want = with(want, 13, {0x05, 0x06});
+    want = with(want, 53, {0x07});
+    want = with(want, 253, wtext(str("Family")));
+    want = with(want, 253 + 243, {0});
+    want = with(want, 253 + 9720, wtext(str("Work")));
+    EXPECT_EQ(g.bytes, want);
+    EXPECT_EQ(zovQMIPBMGetAllGroupsRespGetGroupsData(msg.data(), size(msg), nullptr), -1);
+    Bytes absent = svcMessage(0x000F, {result()});
+    EXPECT_EQ(zovQMIPBMGetAllGroupsRespGetGroupsData(absent.data(), size(absent), g.get()), -3);
+    Bytes other = svcMessage(0x0010, {result(), tlv(0x10, value)});
+    EXPECT_EQ(zovQMIPBMGetAllGroupsRespGetGroupsData(other.data(), size(other), g.get()), -2);
+}
+
+TEST(PbmGroups, LastGroupNameMayRunToTheRecordsLastByteButNotBeyond) {
+    // Set 5, group 39: name slot at 58330; 242 bytes end on byte 58572.
+    auto groupsWith = [](size_t nameLength) {
+        Bytes v = {6};
+        for (int i = 0; i < 5; ++i) v = cat({v, {uint8_t(0xB0 + i), 0}});
+        v = cat({v, {0xB5, 40}});
+        for (int j = 0; j < 39; ++j) v = cat({v, {uint8_t(j)}, wtext({})});
+        return cat({v, {39}, wtext(fill(nameLength, 0x4E))});
+    };
+    Bytes fits = groupsWith(242);
+    Bytes msg = svcMessage(0x000F, {result(), tlv(0x10, fits)});
+    Guarded<PBMGroupsData> g;
+    EXPECT_EQ(zovQMIPBMGetAllGroupsRespGetGroupsData(msg.data(), size(msg), g.get()), size(fits));
+    EXPECT_EQ(g.range(58330, 243), cat({{242}, fill(242, 0x4E)}));
+    EXPECT_EQ(g.bytes[13 + 200 + 39], 39);
+    // A 243-byte name is used as it stands within the record, but here it
+    // would write byte 58573: refused, nothing written.
+    Bytes over = groupsWith(243);
+    Bytes msg2 = svcMessage(0x000F, {result(), tlv(0x10, over)});
+    Guarded<PBMGroupsData> g2;
+    EXPECT_EQ(zovQMIPBMGetAllGroupsRespGetGroupsData(msg2.data(), size(msg2), g2.get()), ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(g2.bytes, Bytes(58573, 0xEE));
+}
+
+TEST(PbmGroups, NameLongerThanItsSlotIsWrittenIntoTheNextSlot) {
+    Bytes value = cat({{1}, {0xB0, 1}, {0x05}, wtext(fill(250, 0x61))});
+    Bytes msg = svcMessage(0x000F, {result(), tlv(0x10, value)});
+    Guarded<PBMGroupsData> g;
+    EXPECT_EQ(zovQMIPBMGetAllGroupsRespGetGroupsData(msg.data(), size(msg), g.get()), size(value));
+    EXPECT_EQ(g.range(253, 252), cat({{250}, fill(250, 0x61), {0xEE}}));
+}
+
+TEST(PbmGroups, GroupCountRunningPastTheBufferWritesNothing) {
+    Bytes value = cat({{1}, {0xB0, 3}, {0x05}, wtext(str("A")), {0x06}});
+    Bytes msg = svcMessage(0x000F, {result(), tlv(0x10, value)});
+    Guarded<PBMGroupsData> g;
+    EXPECT_EQ(zovQMIPBMGetAllGroupsRespGetGroupsData(msg.data(), size(msg), g.get()), ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(g.bytes, Bytes(58573, 0xEE));
+}
+
+TEST(PbmGroups, SetGroupInfoWithEmptyTextIsFourteenBytesWithAFourByteItem) {
+    Bytes slot(243, 0xEE);
+    slot[0] = 0;
+    Bytes buf = buffer(32);
+    EXPECT_EQ(zovQMIPBMSetGroupInfoReq(buf.data(), 13, 1, 2, 3, slot.data()), -1);
+    EXPECT_EQ(buf, buffer(32));
+    EXPECT_EQ(zovQMIPBMSetGroupInfoReq(buf.data(), 14, 1, 2, 3, slot.data()), 14);
+    EXPECT_EQ(head(buf, 15), cat({reqHeader(0x0010, 7), tlv(0x01, {1, 2, 3, 0}), {0xEE}}));
+}
+
+TEST(PbmGroups, SetGroupInfoSendsTheTextSlotsLengthAndText) {
+    Bytes slot = with(Bytes(243, 0xEE), 0, wtext(str("Friends")));
+    Bytes buf = buffer(32);
+    EXPECT_EQ(zovQMIPBMSetGroupInfoReq(buf.data(), 21, 0x0A, 0x0B, 0x0C, slot.data()), 21);
+    EXPECT_EQ(head(buf, 22), cat({reqHeader(0x0010, 14), tlv(0x01, cat({{0x0A, 0x0B, 0x0C}, wtext(str("Friends"))})),
+                                  {0xEE}}));
+    EXPECT_EQ(zovQMIPBMSetGroupInfoReq(buf.data(), 32, 1, 2, 3, nullptr), -1);
+    EXPECT_EQ(zovQMIPBMSetGroupInfoReq(nullptr, 32, 1, 2, 3, slot.data()), -1);
+}
+
 }  // namespace
