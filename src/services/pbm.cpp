@@ -146,21 +146,31 @@ uint16_t hidden(Dec&, Dec::Record& r, uint8_t i, uint16_t off) {
     return static_cast<uint16_t>(off + 1);
 }
 
-// The basic-capability array: per phonebook its key byte, its entry count
-// and that many 8-byte entries.
+// Keyed sets (basic capabilities, emergency number sets, groups): a set count
+// into record byte 0, then per set i its key byte (to keyAt + i) and an inner
+// count m (to countAt + i), followed by the set's elements, which
+// `inner(d, r, i, m, off)` stores and steps over.  The running offset is 16 bits.
+template <class F>
+void keyedSets(Dec& d, Dec::Record& r, size_t keyAt, size_t countAt, F inner) {
+    uint8_t n = d.u8(0);
+    r.put8(0, n);
+    uint16_t off = 1;
+    for (uint8_t i = 0; i < n; ++i) {
+        uint8_t m = d.u8(off + 1);
+        r.copy(keyAt + i, off, 1);
+        r.put8(countAt + i, m);
+        off = inner(d, r, i, m, static_cast<uint16_t>(off + 2));
+    }
+}
+
+// The basic-capability array: per phonebook m entries of 8 bytes.
 auto basicCapabilities(PBMAllCapabilities* caps) {
     return [=](Dec& d) {
         Dec::Record r = d.record(caps, sizeof *caps);
-        uint8_t n = d.u8(0);
-        r.put8(0, n);
-        uint16_t off = 1;
-        for (uint8_t i = 0; i < n; ++i) {
-            uint8_t m = d.u8(off + 1);
-            r.copy(kCapKey + i, off, 1);
-            r.put8(kCapBasicCount + i, m);
-            r.copy(kCapBasic + kCapBasicSet * i, off + 2u, 8u * m);
-            off = static_cast<uint16_t>(off + 2 + 8 * m);
-        }
+        keyedSets(d, r, kCapKey, kCapBasicCount, [](Dec&, Dec::Record& r, uint8_t i, uint8_t m, uint16_t off) {
+            r.copy(kCapBasic + kCapBasicSet * i, off, 8u * m);
+            return static_cast<uint16_t>(off + 8 * m);
+        });
     };
 }
 
@@ -199,45 +209,33 @@ auto flatList(uint8_t* count, PBMEmergencyNumber* numbers) {
     };
 }
 
-// Emergency number sets (card or network): per set its key byte and number
-// count, per number its attribute, length and bytes.
+// Emergency number sets (card or network): per number its attribute, length
+// and bytes.
 auto numberSets(PBMEmergencyNumberSets* sets) {
     return [=](Dec& d) {
         Dec::Record r = d.record(sets, sizeof *sets);
-        uint8_t n = d.u8(0);
-        r.put8(0, n);
-        uint16_t off = 1;
-        for (uint8_t i = 0; i < n; ++i) {
-            uint8_t m = d.u8(off + 1);
-            r.copy(kEmKey + i, off, 1);
-            r.put8(kEmNumberCount + i, m);
-            off = static_cast<uint16_t>(off + 2);
+        keyedSets(d, r, kEmKey, kEmNumberCount, [](Dec& d, Dec::Record& r, uint8_t i, uint8_t m, uint16_t off) {
             for (uint8_t j = 0; j < m; ++j) {
                 uint8_t len = d.u8(off + 1);
                 r.copy(emergencyNumber(i, j), off, 2u + len);
                 off = static_cast<uint16_t>(off + 2 + len);
             }
-        }
+            return off;
+        });
     };
 }
 
-// Groups: per set its key byte and group count, per group its id and name.
+// Groups: per group its id and name.
 auto groupsData(PBMGroupsData* groups) {
     return [=](Dec& d) {
         Dec::Record r = d.record(groups, sizeof *groups);
-        uint8_t n = d.u8(0);
-        r.put8(0, n);
-        uint16_t off = 1;
-        for (uint8_t i = 0; i < n; ++i) {
-            uint8_t m = d.u8(off + 1);
-            r.copy(kGroupKey + i, off, 1);
-            r.put8(kGroupCount + i, m);
-            off = static_cast<uint16_t>(off + 2);
+        keyedSets(d, r, kGroupKey, kGroupCount, [](Dec& d, Dec::Record& r, uint8_t i, uint8_t m, uint16_t off) {
             for (uint8_t j = 0; j < m; ++j) {
                 r.copy(groupId(i, j), off, 1);
                 off = textInto(d, r, groupName(i, j), static_cast<uint16_t>(off + 1));
             }
-        }
+            return off;
+        });
     };
 }
 
