@@ -1039,7 +1039,235 @@ ZOVQMI_API int zovQMIWMSSetPrimaryClientResp(const uint8_t* msg, int len, QmiRes
 
 
 /* ---------------------------------------------------------------- PBM -- */
-/* (PBM declarations) */
+
+#pragma pack(push, 1)
+
+/* PBM: a text slot: length, then up to 242 bytes of text.  243 bytes. */
+typedef struct PBMTextSlot {
+    uint8_t length;
+    uint8_t text[242];
+} PBMTextSlot;
+
+/* PBM: a number slot: two attributes, length, up to 40 number bytes and a
+ * trailing attribute (carried only for additional numbers).  44 bytes. */
+typedef struct PBMNumberSlot {
+    uint8_t attribute1;
+    uint8_t attribute2;
+    uint8_t length;
+    uint8_t number[40];
+    uint8_t trailingAttribute;
+} PBMNumberSlot;
+
+/* Up to 10 phonebook records as delivered by the record-read indication and
+ * its optional arrays, and as read by the write-record request.  Record i is
+ * the i-th record of the indication.  Several parsers fill the same set: each
+ * writes its own arrays and shares the count and record-id slots.  Two-byte
+ * fields are little-endian bytes.  9216 bytes. */
+typedef struct PBMRecordSet {
+    uint8_t leadingWord[2];           /*    0 */
+    uint8_t selectorByte;             /*    2 */
+    uint8_t selectorWord[2];          /*    3 */
+    uint8_t recordCount;              /*    5 */
+    uint8_t recordId[10][2];          /*    6 */
+    uint8_t numberCount[10];          /*   26 */
+    PBMNumberSlot numbers[10][4];     /*   36; slot 0 is the primary number */
+    PBMTextSlot name[10];             /* 1796 */
+    uint8_t groupIdCount[10];         /* 4226 */
+    uint8_t groupIds[10][10];         /* 4236 */
+    uint8_t emailCount[10];           /* 4336 */
+    PBMTextSlot emails[10][2];        /* 4346 */
+    uint8_t hidden[10];               /* 9206 */
+} PBMRecordSet;
+
+/* The capabilities of up to 6 phonebooks (get all PB capabilities).  Each
+ * array getter rewrites the count and the key bytes with its own values.
+ * Basic-capability entries: u16, u16, u16 (little-endian bytes), u8, u8.
+ * 451 bytes. */
+typedef struct PBMAllCapabilities {
+    uint8_t count;                    /*   0 */
+    uint8_t key[6];                   /*   1 */
+    uint8_t basicCount[6];            /*   7 */
+    uint8_t basic[6][8][8];           /*  13 */
+    uint8_t group[6][2];              /* 397 */
+    uint8_t additionalNumber[6][3];   /* 409 */
+    uint8_t email[6][2];              /* 427 */
+    uint8_t secondName[6];            /* 439 */
+    uint8_t hiddenRecords[6];         /* 445 */
+} PBMAllCapabilities;
+
+/* One emergency number: attribute (set lists only), length, up to 6 bytes. */
+typedef struct PBMEmergencyNumber {
+    uint8_t attribute;
+    uint8_t length;
+    uint8_t number[6];
+} PBMEmergencyNumber;
+
+/* Up to 6 sets of up to 256 emergency numbers (card or network lists).
+ * The reserved bytes are never written.  12745 bytes. */
+typedef struct PBMEmergencyNumberSets {
+    uint8_t count;                            /*   0 */
+    uint8_t key[6];                           /*   1 */
+    uint8_t reserved[444];                    /*   7 */
+    uint8_t numberCount[6];                   /* 451 */
+    PBMEmergencyNumber numbers[6][256];       /* 457 */
+} PBMEmergencyNumberSets;
+
+/* Up to 6 sets of up to 40 phonebook groups.  58573 bytes. */
+typedef struct PBMGroupsData {
+    uint8_t count;                    /*   0 */
+    uint8_t key[6];                   /*   1 */
+    uint8_t groupCount[6];            /*   7 */
+    uint8_t groupId[6][40];           /*  13 */
+    PBMTextSlot name[6][40];          /* 253 */
+} PBMGroupsData;
+
+#pragma pack(pop)
+
+/* Indication register 0x0001 */
+ZOVQMI_API int zovQMIPBMIndicationRegisterReq(uint8_t* buf, int bufsize, uint32_t mask);
+ZOVQMI_API int zovQMIPBMIndicationRegisterResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMIndicationRegisterRespGetEventRegistrationMask(const uint8_t* msg, int len, uint32_t* mask);
+
+/* Get PB capabilities 0x0002 */
+ZOVQMI_API int zovQMIPBMGetPBCapabilitiesReq(uint8_t* buf, int bufsize, uint8_t selectorByte, uint16_t selectorWord);
+ZOVQMI_API int zovQMIPBMGetPBCapabilitiesResp(const uint8_t* msg, int len, QmiResult* result);
+/* basic: 8 bytes, three u16 and two u8 as little-endian bytes. */
+ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetCapabilityBasicInformation(const uint8_t* msg, int len,
+                                                                          uint8_t* first, uint8_t* basic);
+ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetGroupCapability(const uint8_t* msg, int len, uint8_t* capability);
+ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetAdditionalNumberCapability(const uint8_t* msg, int len,
+                                                                          uint8_t* capability);
+ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetEmailCapability(const uint8_t* msg, int len, uint8_t* capability);
+ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetSecondNameCapability(const uint8_t* msg, int len,
+                                                                    uint8_t* capability);
+ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetHiddenRecordsCapability(const uint8_t* msg, int len,
+                                                                       uint8_t* capability);
+
+/* Get all PB capabilities 0x0003 */
+ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetCapabilityBasicInformationArray(const uint8_t* msg, int len,
+                                                                                  PBMAllCapabilities* caps);
+ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetGroupCapabilityArray(const uint8_t* msg, int len,
+                                                                       PBMAllCapabilities* caps);
+ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetAdditionalNumberCapabilityArray(const uint8_t* msg, int len,
+                                                                                  PBMAllCapabilities* caps);
+ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetEmailCapabilityArray(const uint8_t* msg, int len,
+                                                                       PBMAllCapabilities* caps);
+ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetSecondNameCapabilityArray(const uint8_t* msg, int len,
+                                                                            PBMAllCapabilities* caps);
+ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetHiddenRecordsCapabilityArray(const uint8_t* msg, int len,
+                                                                               PBMAllCapabilities* caps);
+
+/* Read records 0x0004, and the record-read indication 0x0004 */
+ZOVQMI_API int zovQMIPBMReadRecordsReq(uint8_t* buf, int bufsize, uint8_t selectorByte, uint16_t selectorWord,
+                                       uint16_t startId, uint16_t endId);
+ZOVQMI_API int zovQMIPBMReadRecordsResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMReadRecordsRespGetNumberOfRecords(const uint8_t* msg, int len, uint16_t* count);
+ZOVQMI_API int zovQMIPBMRecordReadIND(const uint8_t* msg, int len, PBMRecordSet* set);
+ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofSecondNameInformation(const uint8_t* msg, int len, PBMRecordSet* set);
+ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofAdditionalNumberInformation(const uint8_t* msg, int len,
+                                                                          PBMRecordSet* set);
+ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofGroupIDInformation(const uint8_t* msg, int len, PBMRecordSet* set);
+ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofEmailInformation(const uint8_t* msg, int len, PBMRecordSet* set);
+ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofHiddenInformation(const uint8_t* msg, int len, PBMRecordSet* set);
+
+/* Write record 0x0005: the record is record 0 of the set.  textSlot(s):
+ * 243-byte text slots; numberSlots: 44-byte number slots. */
+ZOVQMI_API int zovQMIPBMWriteRecordReq(uint8_t* buf, int bufsize, const PBMRecordSet* set);
+ZOVQMI_API int zovQMIPBMWriteRecordReqAddSecondNameInformation(uint8_t* buf, int bufsize, const uint8_t* textSlot);
+ZOVQMI_API int zovQMIPBMWriteRecordReqAddAdditionalNumberInformation(uint8_t* buf, int bufsize, uint8_t count,
+                                                                    const uint8_t* numberSlots);
+ZOVQMI_API int zovQMIPBMWriteRecordReqAddGroupIDInformation(uint8_t* buf, int bufsize, uint8_t count,
+                                                           const uint8_t* ids);
+ZOVQMI_API int zovQMIPBMWriteRecordReqAddEmailInformation(uint8_t* buf, int bufsize, uint8_t count,
+                                                         const uint8_t* textSlots);
+ZOVQMI_API int zovQMIPBMWriteRecordReqAddHiddenInformation(uint8_t* buf, int bufsize, uint8_t hidden);
+ZOVQMI_API int zovQMIPBMWriteRecordResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMWriteRecordRespGetRecordInfo(const uint8_t* msg, int len, uint16_t* recordInfo);
+
+/* Delete record 0x0006 */
+ZOVQMI_API int zovQMIPBMDeleteRecordReq(uint8_t* buf, int bufsize, uint8_t selectorByte, uint16_t selectorWord,
+                                        uint16_t recordId);
+ZOVQMI_API int zovQMIPBMDeleteRecordResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMDeleteRecordRespGetRecordID(const uint8_t* msg, int len, uint16_t* recordId);
+
+/* Delete all PB records 0x0007 */
+ZOVQMI_API int zovQMIPBMDeleteAllPBRecordsReq(uint8_t* buf, int bufsize, uint8_t selectorByte,
+                                              uint16_t selectorWord);
+ZOVQMI_API int zovQMIPBMDeleteAllPBRecordsResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* Search records 0x0008 */
+ZOVQMI_API int zovQMIPBMSearchRecordsReq(uint8_t* buf, int bufsize, uint8_t selectorByte, uint16_t selectorWord);
+ZOVQMI_API int zovQMIPBMSearchRecordsReqAddNumberInformation(uint8_t* buf, int bufsize, uint8_t length,
+                                                            const void* bytes);
+ZOVQMI_API int zovQMIPBMSearchRecordsReqAddNameInformation(uint8_t* buf, int bufsize, uint8_t length,
+                                                          const void* bytes);
+ZOVQMI_API int zovQMIPBMSearchRecordsResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMSearchRecordsRespGetRecordIDsList(const uint8_t* msg, int len, uint16_t* count,
+                                                         uint16_t* ids);
+
+/* Record update indication 0x0009 */
+ZOVQMI_API int zovQMIPBMRecordUpdateIND(const uint8_t* msg, int len, uint8_t* first, uint16_t* second,
+                                        uint8_t* third, uint16_t* fourth);
+
+/* Refresh indication 0x000A */
+ZOVQMI_API int zovQMIPBMRefreshIND(const uint8_t* msg, int len, uint8_t* first, uint16_t* second, uint8_t* third);
+
+/* PB ready indication 0x000B */
+ZOVQMI_API int zovQMIPBMPBReadyIND(const uint8_t* msg, int len, uint8_t* selectorByte, uint16_t* selectorWord);
+
+/* Emergency list indication 0x000C */
+ZOVQMI_API int zovQMIPBMEmergencyListIND(const uint8_t* msg, int len, uint8_t* count, PBMEmergencyNumber* numbers);
+ZOVQMI_API int zovQMIPBMEmergencyListINDGetNVEmergencyNumbers(const uint8_t* msg, int len, uint8_t* count,
+                                                             PBMEmergencyNumber* numbers);
+ZOVQMI_API int zovQMIPBMEmergencyListINDGetCardEmergencyNumbers(const uint8_t* msg, int len,
+                                                               PBMEmergencyNumberSets* sets);
+ZOVQMI_API int zovQMIPBMEmergencyListINDGetNetworkEmergencyNumbers(const uint8_t* msg, int len,
+                                                                  PBMEmergencyNumberSets* sets);
+
+/* All PB init done indication 0x000D */
+ZOVQMI_API int zovQMIPBMAllPBInitDoneIND(const uint8_t* msg, int len, uint8_t* count, uint8_t* keys,
+                                         uint16_t* words);
+
+/* Get emergency list 0x000E */
+ZOVQMI_API int zovQMIPBMGetEmergencyListReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPBMGetEmergencyListResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMGetEmergencyListRespGetHardCodedEmergencyNumbers(const uint8_t* msg, int len, uint8_t* count,
+                                                                        PBMEmergencyNumber* numbers);
+ZOVQMI_API int zovQMIPBMGetEmergencyListRespGetNVEmergencyNumbers(const uint8_t* msg, int len, uint8_t* count,
+                                                                 PBMEmergencyNumber* numbers);
+ZOVQMI_API int zovQMIPBMGetEmergencyListRespGetCardEmergencyNumbers(const uint8_t* msg, int len,
+                                                                   PBMEmergencyNumberSets* sets);
+ZOVQMI_API int zovQMIPBMGetEmergencyListRespGetNetworkEmergencyNumbers(const uint8_t* msg, int len,
+                                                                      PBMEmergencyNumberSets* sets);
+
+/* Get all groups 0x000F */
+ZOVQMI_API int zovQMIPBMGetAllGroupsReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPBMGetAllGroupsResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMGetAllGroupsRespGetGroupsData(const uint8_t* msg, int len, PBMGroupsData* groups);
+
+/* Set group info 0x0010 (textSlot: a 243-byte text slot) */
+ZOVQMI_API int zovQMIPBMSetGroupInfoReq(uint8_t* buf, int bufsize, uint8_t first, uint8_t second, uint8_t third,
+                                        const uint8_t* textSlot);
+ZOVQMI_API int zovQMIPBMSetGroupInfoResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMSetGroupInfoRespGetGroupIdentifier(const uint8_t* msg, int len, uint8_t* first,
+                                                          uint8_t* second);
+
+/* Get PB state 0x0011 */
+ZOVQMI_API int zovQMIPBMGetPBStateReq(uint8_t* buf, int bufsize, uint8_t selectorByte, uint16_t selectorWord);
+ZOVQMI_API int zovQMIPBMGetPBStateResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMGetPBStateRespGetPhonebookState(const uint8_t* msg, int len, uint8_t* first,
+                                                       uint16_t* second, uint8_t* third);
+
+/* Read all hidden records 0x0012 */
+ZOVQMI_API int zovQMIPBMReadAllHiddenRecordsReq(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIPBMReadAllHiddenRecordsResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMReadAllHiddenRecordsRespGetNumberofRecords(const uint8_t* msg, int len, uint16_t* count);
+
+/* Hidden record status indication 0x0013 */
+ZOVQMI_API int zovQMIPBMHiddenRecordStatusIND(const uint8_t* msg, int len, uint8_t* first, uint8_t* second);
+
 /* ------------------------------------------------------------ end PBM -- */
 
 
