@@ -165,19 +165,27 @@ TEST(PdsRequests, EveryRequestWithItsOwnItemWritesItAndRefusesOneByteLess) {
         uint16_t id;
         Bytes value;
     } cases[] = {
-        {"SetGPSServiceState", [](uint8_t* b, int n) { return zovQMIPDSSetGPSServiceStateReq(b, n, 0x01); }, 0x21,
+        {"SetGPSServiceState",
+         [](uint8_t* b, int n) { return zovQMIPDSSetGPSServiceStateReq(b, n, 0x01); },
+         0x21,
          {0x01}},
         {"SetDefaultTrackingSession",
-         [](uint8_t* b, int n) { return zovQMIPDSSetDefaultTrackingSessionReq(b, n, 0x02, 0x1E, 0x11223344, 0x55667788); },
+         [](uint8_t* b, int n) {
+             return zovQMIPDSSetDefaultTrackingSessionReq(b, n, 0x02, 0x1E, 0x11223344, 0x55667788);
+         },
          0x2A, cat({{0x02, 0x1E}, le32(0x11223344), le32(0x55667788)})},
-        {"SetAutoTrackingState", [](uint8_t* b, int n) { return zovQMIPDSSetAutoTrackingStateReq(b, n, 0x01); }, 0x31,
+        {"SetAutoTrackingState",
+         [](uint8_t* b, int n) { return zovQMIPDSSetAutoTrackingStateReq(b, n, 0x01); },
+         0x31,
          {0x01}},
         {"SendNIResponse", [](uint8_t* b, int n) { return zovQMIPDSSendNIResponseReq(b, n, 0x02); }, 0x3C, {0x02}},
-        {"SetNMEAConfig", [](uint8_t* b, int n) { return zovQMIPDSSetNMEAConfigReq(b, n, 0x1F, 0x02, 0x01); }, 0x27,
+        {"SetNMEAConfig",
+         [](uint8_t* b, int n) { return zovQMIPDSSetNMEAConfigReq(b, n, 0x1F, 0x02, 0x01); },
+         0x27,
          {0x1F, 0x02, 0x01}},
         {"InjectRelativeTimeRef",
-         [](uint8_t* b, int n) { return zovQMIPDSInjectRelativeTimeRefReq(b, n, 0x0102030405060708ull, 0xA0B0); },
-         0x28, cat({le64(0x0102030405060708ull), le16(0xA0B0)})},
+         [](uint8_t* b, int n) { return zovQMIPDSInjectRelativeTimeRefReq(b, n, 0x0102030405060708ull, 0xA0B0); }, 0x28,
+         cat({le64(0x0102030405060708ull), le16(0xA0B0)})},
         {"SetCOMPortConfig", [](uint8_t* b, int n) { return zovQMIPDSSetCOMPortConfigReq(b, n, 0x03); }, 0x33, {0x03}},
     };
     for (const Case& c : cases) {
@@ -229,46 +237,188 @@ void checkAdds(const std::vector<AddCase>& cases) {
 TEST(PdsRequests, EventReportSubscriptionsUseTheirOwnNumbersSkipping0x11) {
     Build base = zovQMIPDSSetEventReportReq;
     checkAdds({
-        {"PositionDataNMEA", base, 0x01, [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddPositionDataNMEA(b, n, 1); }, 0x10, {0x01}},
-        {"ParsedPositionData", base, 0x01, [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddParsedPositionData(b, n, 1); }, 0x12, {0x01}},
-        {"ExternalXTRADataRequest", base, 0x01, [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddExternalXTRADataRequest(b, n, 0); }, 0x13, {0x00}},
-        {"ExternalTimeInjectionRequest", base, 0x01, [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddExternalTimeInjectionRequest(b, n, 1); }, 0x14, {0x01}},
-        {"ExternalWiFiPositionRequest", base, 0x01, [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddExternalWiFiPositionRequest(b, n, 1); }, 0x15, {0x01}},
-        {"SatelliteInformation", base, 0x01, [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddSatelliteInformation(b, n, 1); }, 0x16, {0x01}},
-        {"NetworkInitiatedPromptVX", base, 0x01, [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddNetworkInitiatedPromptVX(b, n, 1); }, 0x17, {0x01}},
-        {"NetworkInitiatedPromptSUPL", base, 0x01, [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddNetworkInitiatedPromptSUPL(b, n, 1); }, 0x18, {0x01}},
-        {"NetworkInitiatedPromptUMTSCP", base, 0x01, [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddNetworkInitiatedPromptUMTSCP(b, n, 1); }, 0x19, {0x01}},
-        {"PDSCommEvents", base, 0x01, [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddPDSCommEvents(b, n, 1); }, 0x1A, {0x01}},
+        {"PositionDataNMEA",
+         base,
+         0x01,
+         [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddPositionDataNMEA(b, n, 1); },
+         0x10,
+         {0x01}},
+        {"ParsedPositionData",
+         base,
+         0x01,
+         [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddParsedPositionData(b, n, 1); },
+         0x12,
+         {0x01}},
+        {"ExternalXTRADataRequest",
+         base,
+         0x01,
+         [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddExternalXTRADataRequest(b, n, 0); },
+         0x13,
+         {0x00}},
+        {"ExternalTimeInjectionRequest",
+         base,
+         0x01,
+         [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddExternalTimeInjectionRequest(b, n, 1); },
+         0x14,
+         {0x01}},
+        {"ExternalWiFiPositionRequest",
+         base,
+         0x01,
+         [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddExternalWiFiPositionRequest(b, n, 1); },
+         0x15,
+         {0x01}},
+        {"SatelliteInformation",
+         base,
+         0x01,
+         [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddSatelliteInformation(b, n, 1); },
+         0x16,
+         {0x01}},
+        {"NetworkInitiatedPromptVX",
+         base,
+         0x01,
+         [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddNetworkInitiatedPromptVX(b, n, 1); },
+         0x17,
+         {0x01}},
+        {"NetworkInitiatedPromptSUPL",
+         base,
+         0x01,
+         [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddNetworkInitiatedPromptSUPL(b, n, 1); },
+         0x18,
+         {0x01}},
+        {"NetworkInitiatedPromptUMTSCP",
+         base,
+         0x01,
+         [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddNetworkInitiatedPromptUMTSCP(b, n, 1); },
+         0x19,
+         {0x01}},
+        {"PDSCommEvents",
+         base,
+         0x01,
+         [](uint8_t* b, int n) { return zovQMIPDSSetEventReportReqAddPDSCommEvents(b, n, 1); },
+         0x1A,
+         {0x01}},
     });
 }
 
 TEST(PdsRequests, FixedSizeOptionalItemsWriteTheirValues) {
     checkAdds({
-        {"SinglePositionMode", zovQMIPDSDetermineSinglePositionReq, 0x35, [](uint8_t* b, int n) { return zovQMIPDSDetermineSinglePositionReqAddSinglePositionMode(b, n, 2); }, 0x10, {0x02}},
-        {"SinglePositionTimeout", zovQMIPDSDetermineSinglePositionReq, 0x35, [](uint8_t* b, int n) { return zovQMIPDSDetermineSinglePositionReqAddSinglePositionTimeout(b, n, 30); }, 0x11, {30}},
-        {"SinglePositionAccuracy", zovQMIPDSDetermineSinglePositionReq, 0x35, [](uint8_t* b, int n) { return zovQMIPDSDetermineSinglePositionReqAddSinglePositionAccuracy(b, n, 0x01020304); }, 0x12, le32(0x01020304)},
-        {"XTRADatabaseAutodownload", zovQMIPDSSetXTRAParametersReq, 0x2C, [](uint8_t* b, int n) { return zovQMIPDSSetXTRAParametersReqAddXTRADatabaseAutodownload(b, n, 1, 0x0A0B); }, 0x10, {0x01, 0x0B, 0x0A}},
-        {"XTRADatabaseNetworkConfiguration", zovQMIPDSSetXTRAParametersReq, 0x2C, [](uint8_t* b, int n) { return zovQMIPDSSetXTRAParametersReqAddXTRADatabaseNetworkConfiguration(b, n, 3); }, 0x12, {0x03}},
-        {"EmbeddedXTRAClientState", zovQMIPDSSetXTRAParametersReq, 0x2C, [](uint8_t* b, int n) { return zovQMIPDSSetXTRAParametersReqAddEmbeddedXTRAClientState(b, n, 1, 2); }, 0x14, {0x01, 0x02}},
-        {"AGPSLocationServer", zovQMIPDSSetAGPSConfigReq, 0x2F, [](uint8_t* b, int n) { return zovQMIPDSSetAGPSConfigReqAddAGPSLocationServer(b, n, 0xC0A80001, 7275); }, 0x10, cat({le32(0xC0A80001), le32(7275)})},
-        {"GPSServiceData", zovQMIPDSResetGPSServiceDataReq, 0x34, [](uint8_t* b, int n) { return zovQMIPDSResetGPSServiceDataReqAddGPSServiceData(b, n, 0x0000FFFF); }, 0x10, le32(0x0000FFFF)},
-        {"GPSServiceCellDBData", zovQMIPDSResetGPSServiceDataReq, 0x34, [](uint8_t* b, int n) { return zovQMIPDSResetGPSServiceDataReqAddGPSServiceCellDBData(b, n, 0x12345678); }, 0x11, le32(0x12345678)},
-        {"Timestamp", zovQMIPDSInjectPositionDataReq, 0x38, [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddTimestamp(b, n, 0x0000011122334455ull); }, 0x10, le64(0x0000011122334455ull)},
-        {"Latitude", zovQMIPDSInjectPositionDataReq, 0x38, [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddLatitude(b, n, 0x404A0C49BA5E353Full); }, 0x11, le64(0x404A0C49BA5E353Full)},
-        {"Longitude", zovQMIPDSInjectPositionDataReq, 0x38, [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddLongitude(b, n, 0xC05E800000000001ull); }, 0x12, le64(0xC05E800000000001ull)},
-        {"AltitudeFromEllipsoid", zovQMIPDSInjectPositionDataReq, 0x38, [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddAltitudeFromEllipsoid(b, n, 0x42C80000); }, 0x13, le32(0x42C80000)},
-        {"AltitudeFromSeaLevel", zovQMIPDSInjectPositionDataReq, 0x38, [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddAltitudeFromSeaLevel(b, n, 0x42C00000); }, 0x14, le32(0x42C00000)},
-        {"HorizontalUncertaintyCircular", zovQMIPDSInjectPositionDataReq, 0x38, [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddHorizontalUncertaintyCircular(b, n, 0x41200000); }, 0x15, le32(0x41200000)},
-        {"VerticalUncertainty", zovQMIPDSInjectPositionDataReq, 0x38, [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddVerticalUncertainty(b, n, 0x41A00000); }, 0x16, le32(0x41A00000)},
-        {"HorizontalConfidence", zovQMIPDSInjectPositionDataReq, 0x38, [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddHorizontalConfidence(b, n, 68); }, 0x17, {68}},
-        {"VerticalConfidence", zovQMIPDSInjectPositionDataReq, 0x38, [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddVerticalConfidence(b, n, 95); }, 0x18, {95}},
-        {"PositionSource", zovQMIPDSInjectPositionDataReq, 0x38, [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddPositionSource(b, n, 2); }, 0x19, {0x02}},
-        {"TimeType", zovQMIPDSInjectPositionDataReq, 0x38, [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddTimeType(b, n, 1); }, 0x1A, {0x01}},
-        {"WiFiPositionTime", zovQMIPDSInjectWiFiPositionDataReq, 0x39, [](uint8_t* b, int n) { return zovQMIPDSInjectWiFiPositionDataReqAddWiFiPositionTime(b, n, 0xCAFEBABE); }, 0x10, le32(0xCAFEBABE)},
-        {"WiFiPosition", zovQMIPDSInjectWiFiPositionDataReq, 0x39, [](uint8_t* b, int n) { return zovQMIPDSInjectWiFiPositionDataReqAddWiFiPosition(b, n, 0x11121314, 0x21222324, 0x3132, 0x41, 0x51); }, 0x11, cat({le32(0x11121314), le32(0x21222324), le16(0x3132), {0x41, 0x51}})},
-        {"SBASConfiguration", zovQMIPDSSetSBASConfigReq, 0x3B, [](uint8_t* b, int n) { return zovQMIPDSSetSBASConfigReqAddSBASConfiguration(b, n, 1); }, 0x10, {0x01}},
-        {"DPOConfiguration", zovQMIPDSSetDPOConfigReq, 0x40, [](uint8_t* b, int n) { return zovQMIPDSSetDPOConfigReqAddDPOConfiguration(b, n, 2); }, 0x10, {0x02}},
-        {"ODPConfiguration", zovQMIPDSSetODPConfigReq, 0x42, [](uint8_t* b, int n) { return zovQMIPDSSetODPConfigReqAddODPConfiguration(b, n, 3); }, 0x10, {0x03}},
+        {"SinglePositionMode",
+         zovQMIPDSDetermineSinglePositionReq,
+         0x35,
+         [](uint8_t* b, int n) { return zovQMIPDSDetermineSinglePositionReqAddSinglePositionMode(b, n, 2); },
+         0x10,
+         {0x02}},
+        {"SinglePositionTimeout",
+         zovQMIPDSDetermineSinglePositionReq,
+         0x35,
+         [](uint8_t* b, int n) { return zovQMIPDSDetermineSinglePositionReqAddSinglePositionTimeout(b, n, 30); },
+         0x11,
+         {30}},
+        {"SinglePositionAccuracy", zovQMIPDSDetermineSinglePositionReq, 0x35,
+         [](uint8_t* b, int n) {
+             return zovQMIPDSDetermineSinglePositionReqAddSinglePositionAccuracy(b, n, 0x01020304);
+         },
+         0x12, le32(0x01020304)},
+        {"XTRADatabaseAutodownload",
+         zovQMIPDSSetXTRAParametersReq,
+         0x2C,
+         [](uint8_t* b, int n) { return zovQMIPDSSetXTRAParametersReqAddXTRADatabaseAutodownload(b, n, 1, 0x0A0B); },
+         0x10,
+         {0x01, 0x0B, 0x0A}},
+        {"XTRADatabaseNetworkConfiguration",
+         zovQMIPDSSetXTRAParametersReq,
+         0x2C,
+         [](uint8_t* b, int n) { return zovQMIPDSSetXTRAParametersReqAddXTRADatabaseNetworkConfiguration(b, n, 3); },
+         0x12,
+         {0x03}},
+        {"EmbeddedXTRAClientState",
+         zovQMIPDSSetXTRAParametersReq,
+         0x2C,
+         [](uint8_t* b, int n) { return zovQMIPDSSetXTRAParametersReqAddEmbeddedXTRAClientState(b, n, 1, 2); },
+         0x14,
+         {0x01, 0x02}},
+        {"AGPSLocationServer", zovQMIPDSSetAGPSConfigReq, 0x2F,
+         [](uint8_t* b, int n) { return zovQMIPDSSetAGPSConfigReqAddAGPSLocationServer(b, n, 0xC0A80001, 7275); }, 0x10,
+         cat({le32(0xC0A80001), le32(7275)})},
+        {"GPSServiceData", zovQMIPDSResetGPSServiceDataReq, 0x34,
+         [](uint8_t* b, int n) { return zovQMIPDSResetGPSServiceDataReqAddGPSServiceData(b, n, 0x0000FFFF); }, 0x10,
+         le32(0x0000FFFF)},
+        {"GPSServiceCellDBData", zovQMIPDSResetGPSServiceDataReq, 0x34,
+         [](uint8_t* b, int n) { return zovQMIPDSResetGPSServiceDataReqAddGPSServiceCellDBData(b, n, 0x12345678); },
+         0x11, le32(0x12345678)},
+        {"Timestamp", zovQMIPDSInjectPositionDataReq, 0x38,
+         [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddTimestamp(b, n, 0x0000011122334455ull); },
+         0x10, le64(0x0000011122334455ull)},
+        {"Latitude", zovQMIPDSInjectPositionDataReq, 0x38,
+         [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddLatitude(b, n, 0x404A0C49BA5E353Full); }, 0x11,
+         le64(0x404A0C49BA5E353Full)},
+        {"Longitude", zovQMIPDSInjectPositionDataReq, 0x38,
+         [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddLongitude(b, n, 0xC05E800000000001ull); },
+         0x12, le64(0xC05E800000000001ull)},
+        {"AltitudeFromEllipsoid", zovQMIPDSInjectPositionDataReq, 0x38,
+         [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddAltitudeFromEllipsoid(b, n, 0x42C80000); },
+         0x13, le32(0x42C80000)},
+        {"AltitudeFromSeaLevel", zovQMIPDSInjectPositionDataReq, 0x38,
+         [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddAltitudeFromSeaLevel(b, n, 0x42C00000); },
+         0x14, le32(0x42C00000)},
+        {"HorizontalUncertaintyCircular", zovQMIPDSInjectPositionDataReq, 0x38,
+         [](uint8_t* b, int n) {
+             return zovQMIPDSInjectPositionDataReqAddHorizontalUncertaintyCircular(b, n, 0x41200000);
+         },
+         0x15, le32(0x41200000)},
+        {"VerticalUncertainty", zovQMIPDSInjectPositionDataReq, 0x38,
+         [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddVerticalUncertainty(b, n, 0x41A00000); }, 0x16,
+         le32(0x41A00000)},
+        {"HorizontalConfidence",
+         zovQMIPDSInjectPositionDataReq,
+         0x38,
+         [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddHorizontalConfidence(b, n, 68); },
+         0x17,
+         {68}},
+        {"VerticalConfidence",
+         zovQMIPDSInjectPositionDataReq,
+         0x38,
+         [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddVerticalConfidence(b, n, 95); },
+         0x18,
+         {95}},
+        {"PositionSource",
+         zovQMIPDSInjectPositionDataReq,
+         0x38,
+         [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddPositionSource(b, n, 2); },
+         0x19,
+         {0x02}},
+        {"TimeType",
+         zovQMIPDSInjectPositionDataReq,
+         0x38,
+         [](uint8_t* b, int n) { return zovQMIPDSInjectPositionDataReqAddTimeType(b, n, 1); },
+         0x1A,
+         {0x01}},
+        {"WiFiPositionTime", zovQMIPDSInjectWiFiPositionDataReq, 0x39,
+         [](uint8_t* b, int n) { return zovQMIPDSInjectWiFiPositionDataReqAddWiFiPositionTime(b, n, 0xCAFEBABE); },
+         0x10, le32(0xCAFEBABE)},
+        {"WiFiPosition", zovQMIPDSInjectWiFiPositionDataReq, 0x39,
+         [](uint8_t* b, int n) {
+             return zovQMIPDSInjectWiFiPositionDataReqAddWiFiPosition(b, n, 0x11121314, 0x21222324, 0x3132, 0x41, 0x51);
+         },
+         0x11, cat({le32(0x11121314), le32(0x21222324), le16(0x3132), {0x41, 0x51}})},
+        {"SBASConfiguration",
+         zovQMIPDSSetSBASConfigReq,
+         0x3B,
+         [](uint8_t* b, int n) { return zovQMIPDSSetSBASConfigReqAddSBASConfiguration(b, n, 1); },
+         0x10,
+         {0x01}},
+        {"DPOConfiguration",
+         zovQMIPDSSetDPOConfigReq,
+         0x40,
+         [](uint8_t* b, int n) { return zovQMIPDSSetDPOConfigReqAddDPOConfiguration(b, n, 2); },
+         0x10,
+         {0x02}},
+        {"ODPConfiguration",
+         zovQMIPDSSetODPConfigReq,
+         0x42,
+         [](uint8_t* b, int n) { return zovQMIPDSSetODPConfigReqAddODPConfiguration(b, n, 3); },
+         0x10,
+         {0x03}},
     });
 }
 
@@ -288,9 +438,9 @@ TEST(PdsRequests, AbsoluteTimeIsAddedAsItemOneAndRaisesTheAreaLength) {
     EXPECT_EQ(head(buf, 7), reqHeader(0x3D, 0));
     EXPECT_EQ(zovQMIPDSInjectAbsTimeRefReqAddAbsoluteTimeInjection(buf.data(), 32, 0x000001234567890Aull, 0x0BB8, 1, 0),
               24);
-    EXPECT_EQ(head(buf, 25),
-              cat({reqHeader(0x3D, 17), tlv(0x01, cat({le64(0x000001234567890Aull), le32(0x0BB8), {0x01, 0x00}})),
-                   {0xEE}}));
+    EXPECT_EQ(
+        head(buf, 25),
+        cat({reqHeader(0x3D, 17), tlv(0x01, cat({le64(0x000001234567890Aull), le32(0x0BB8), {0x01, 0x00}})), {0xEE}}));
     EXPECT_EQ(zovQMIPDSInjectAbsTimeRefReqAddAbsoluteTimeInjection(buf.data(), 40, 1, 2, 3, 4), -2);
     EXPECT_EQ(zovQMIPDSInjectAbsTimeRefReqAddAbsoluteTimeInjection(nullptr, 40, 1, 2, 3, 4), -1);
 }
@@ -315,9 +465,10 @@ TEST(PdsRequests, LengthPrefixedAddsWriteLengthByteThenBytes) {
         EXPECT_EQ(c.add(buf.data(), 64, 0, nullptr), 11);
         Bytes url = str("supl.example");
         EXPECT_EQ(c.add(buf.data(), 64, uint8_t(url.size()), url.data()), 11 + 4 + L(url));
-        EXPECT_EQ(head(buf, 15 + url.size() + 1),
-                  cat({reqHeader(c.id, uint16_t(8 + url.size())), tlv(0x11, {0x00}),
-                       tlv(0x11, cat({{uint8_t(url.size())}, url})), {0xEE}}));
+        EXPECT_EQ(head(buf, 15 + url.size() + 1), cat({reqHeader(c.id, uint16_t(8 + url.size())),
+                                                       tlv(0x11, {0x00}),
+                                                       tlv(0x11, cat({{uint8_t(url.size())}, url})),
+                                                       {0xEE}}));
         Bytes before = buf;
         EXPECT_EQ(c.add(buf.data(), 64, 3, nullptr), -1);
         EXPECT_EQ(c.add(nullptr, 64, 0, nullptr), -1);
@@ -339,8 +490,8 @@ TEST(PdsRequests, AccessPointInformationWritesCountThenEntriesInOrder) {
     Bytes buf = buffer(64);
     ASSERT_EQ(zovQMIPDSInjectWiFiPositionDataReq(buf.data(), 64), 7);
     EXPECT_EQ(zovQMIPDSInjectWiFiPositionDataReqAddWiFiPositionAPInformation(buf.data(), 64, 2, aps), 7 + 3 + 27);
-    Bytes value = cat({{0x02}, seq(6, 0x10), le32(0xFFFFFFC4), le16(6), {0x01}, seq(6, 0x20), le32(0xFFFFFFB0),
-                       le16(11), {0x00}});
+    Bytes value = cat(
+        {{0x02}, seq(6, 0x10), le32(0xFFFFFFC4), le16(6), {0x01}, seq(6, 0x20), le32(0xFFFFFFB0), le16(11), {0x00}});
     EXPECT_EQ(head(buf, 38), cat({reqHeader(0x39, 30), tlv(0x12, value), {0xEE}}));
     Bytes before = buf;
     EXPECT_EQ(zovQMIPDSInjectWiFiPositionDataReqAddWiFiPositionAPInformation(buf.data(), 64, 1, nullptr), -1);
@@ -435,6 +586,15 @@ TEST(PdsRequests, InjectEFSDataRefusesMissingBlocksAndHugeLengths) {
 // ---------------------------------------------------- prompt answers --
 
 void setPtr(void* field, const void* p) { std::memcpy(field, &p, sizeof p); }
+// A block behind a length byte: copied into the record, or pointed at.
+void inlineBlock(uint8_t& length, uint8_t* block, const Bytes& b) {
+    length = uint8_t(b.size());
+    std::memcpy(block, b.data(), b.size());
+}
+void pointerBlock(uint8_t& length, void* field, const Bytes& b) {
+    length = uint8_t(b.size());
+    setPtr(field, b.empty() ? nullptr : b.data());
+}
 
 NetworkInitiatedPromptVX vxPrompt(const Bytes& data) {
     NetworkInitiatedPromptVX r = guarded<NetworkInitiatedPromptVX>();
@@ -445,8 +605,7 @@ NetworkInitiatedPromptVX vxPrompt(const Bytes& data) {
     wr32(&r.timeout, 0x99AABBCC);
     r.positionQoSIncluded = 3;
     r.positionQoS = 4;
-    r.dataLength = uint8_t(data.size());
-    setPtr(&r.data, data.empty() ? nullptr : data.data());
+    pointerBlock(r.dataLength, &r.data, data);
     return r;
 }
 Bytes vxWire(const Bytes& data) {
@@ -500,24 +659,36 @@ void fillSupl(Supl& s) {
     wr32(&r.requesterIdMask, 0x1D1E1F20);
     wr32(&r.clientNameMask, 0x21222324);
     for (int i = 0; i < 16; ++i) r.serverIPv6[i] = uint8_t(0x30 + i);
-    r.length1 = uint8_t(s.b1.size());
-    std::memcpy(r.block1, s.b1.data(), s.b1.size());
+    inlineBlock(r.length1, r.block1, s.b1);
     r.hash = 0x41;
     r.positionMethod = 0x42;
-    r.length2 = uint8_t(s.b2.size());
-    setPtr(&r.block2, s.b2.empty() ? nullptr : s.b2.data());
+    pointerBlock(r.length2, &r.block2, s.b2);
     r.clientNameEncoding = 0x43;
-    r.length3 = uint8_t(s.b3.size());
-    setPtr(&r.block3, s.b3.empty() ? nullptr : s.b3.data());
+    pointerBlock(r.length3, &r.block3, s.b3);
     r.qosHorizontalAccuracy = 0x44;
     r.qosVerticalAccuracy = 0x45;
     r.qosMaxAge = 0x46;
     r.qosDelay = 0x47;
 }
 Bytes suplWire(const Bytes& b1, const Bytes& b2, const Bytes& b3) {
-    return cat({le32(0x01020304), {0x05}, le64(0x0607080910111213ull), {0x14}, le32(0x15161718), le32(0x191A1B1C),
-                le32(0x1D1E1F20), le32(0x21222324), seq(16, 0x30), {uint8_t(b1.size())}, b1, {0x41, 0x42},
-                {uint8_t(b2.size())}, b2, {0x43}, {uint8_t(b3.size())}, b3, {0x44, 0x45, 0x46, 0x47}});
+    return cat({le32(0x01020304),
+                {0x05},
+                le64(0x0607080910111213ull),
+                {0x14},
+                le32(0x15161718),
+                le32(0x191A1B1C),
+                le32(0x1D1E1F20),
+                le32(0x21222324),
+                seq(16, 0x30),
+                {uint8_t(b1.size())},
+                b1,
+                {0x41, 0x42},
+                {uint8_t(b2.size())},
+                b2,
+                {0x43},
+                {uint8_t(b3.size())},
+                b3,
+                {0x44, 0x45, 0x46, 0x47}});
 }
 
 TEST(PdsPrompts, SUPLAnswerWritesInlineAndPointerBlocksInRecordOrder) {
@@ -527,9 +698,9 @@ TEST(PdsPrompts, SUPLAnswerWritesInlineAndPointerBlocksInRecordOrder) {
     ASSERT_EQ(zovQMIPDSSendNIResponseReq(buf.data(), 128, 1), 11);
     const int value = 56 + 13 + 6 + 2;
     EXPECT_EQ(zovQMIPDSSendNIResponseReqAddNetworkInitiatedPromptSUPL(buf.data(), 128, &s.r), 14 + value);
-    EXPECT_EQ(head(buf, 14 + value + 1),
-              cat({reqHeader(0x3C, uint16_t(7 + value)), tlv(0x01, {0x01}), tlv(0x11, suplWire(s.b1, s.b2, s.b3)),
-                   {0xEE}}));
+    EXPECT_EQ(
+        head(buf, 14 + value + 1),
+        cat({reqHeader(0x3C, uint16_t(7 + value)), tlv(0x01, {0x01}), tlv(0x11, suplWire(s.b1, s.b2, s.b3)), {0xEE}}));
 }
 
 TEST(PdsPrompts, SUPLAnswerWithEmptyBlocksIsFiftySixBytes) {
@@ -569,22 +740,29 @@ void fillUmts(Umts& s) {
     r.invokeId = 0xB1;
     r.validMask = 0xB2;
     r.notificationTextEncoding = 0xB3;
-    r.length1 = uint8_t(s.b1.size());
-    setPtr(&r.block1, s.b1.empty() ? nullptr : s.b1.data());
-    r.length2 = uint8_t(s.b2.size());
-    std::memcpy(r.block2, s.b2.data(), s.b2.size());
+    pointerBlock(r.length1, &r.block1, s.b1);
+    inlineBlock(r.length2, r.block2, s.b2);
     r.locationType = 0xC1;
     r.externalAddressType = 0xC2;
-    r.length3 = uint8_t(s.b3.size());
-    setPtr(&r.block3, s.b3.empty() ? nullptr : s.b3.data());
+    pointerBlock(r.length3, &r.block3, s.b3);
     r.requesterIdEncoding = 0xC3;
-    r.length4 = uint8_t(s.b4.size());
-    setPtr(&r.block4, s.b4.empty() ? nullptr : s.b4.data());
+    pointerBlock(r.length4, &r.block4, s.b4);
     r.codewordEncoding = 0xC4;
 }
 Bytes umtsWire(const Bytes& b1, const Bytes& b2, const Bytes& b3, const Bytes& b4) {
-    return cat({le32(0xA1A2A3A4), {0xB1, 0xB2, 0xB3}, {uint8_t(b1.size())}, b1, {uint8_t(b2.size())}, b2, {0xC1, 0xC2},
-                {uint8_t(b3.size())}, b3, {0xC3}, {uint8_t(b4.size())}, b4, {0xC4}});
+    return cat({le32(0xA1A2A3A4),
+                {0xB1, 0xB2, 0xB3},
+                {uint8_t(b1.size())},
+                b1,
+                {uint8_t(b2.size())},
+                b2,
+                {0xC1, 0xC2},
+                {uint8_t(b3.size())},
+                b3,
+                {0xC3},
+                {uint8_t(b4.size())},
+                b4,
+                {0xC4}});
 }
 
 TEST(PdsPrompts, UMTSCPAnswerIsWrittenWithTheSUPLItemType0x11) {
@@ -594,9 +772,10 @@ TEST(PdsPrompts, UMTSCPAnswerIsWrittenWithTheSUPLItemType0x11) {
     ASSERT_EQ(zovQMIPDSSendNIResponseReq(buf.data(), 128, 1), 11);
     const int value = 15 + 4 + 6 + 4 + 4;
     EXPECT_EQ(zovQMIPDSSendNIResponseReqAddNetworkInitiatedPromptUMTSCP(buf.data(), 128, &s.r), 14 + value);
-    EXPECT_EQ(head(buf, 14 + value + 1),
-              cat({reqHeader(0x3C, uint16_t(7 + value)), tlv(0x01, {0x01}),
-                   tlv(0x11, umtsWire(s.b1, s.b2, s.b3, s.b4)), {0xEE}}));
+    EXPECT_EQ(head(buf, 14 + value + 1), cat({reqHeader(0x3C, uint16_t(7 + value)),
+                                              tlv(0x01, {0x01}),
+                                              tlv(0x11, umtsWire(s.b1, s.b2, s.b3, s.b4)),
+                                              {0xEE}}));
 }
 
 TEST(PdsPrompts, UMTSCPAnswerRefusesAnyPointerBlockWithLengthButNoPointer) {
@@ -797,7 +976,8 @@ TEST(PdsResponses, GetDefaultTrackingSessionYieldsFourFields) {
     QmiResult r;
     uint8_t mode = 0, timeout = 0;
     uint32_t interval = 0, accuracy = 0;
-    EXPECT_EQ(zovQMIPDSGetDefaultTrackingSessionResp(msg.data(), L(msg), &r, &mode, &timeout, &interval, &accuracy), 20);
+    EXPECT_EQ(zovQMIPDSGetDefaultTrackingSessionResp(msg.data(), L(msg), &r, &mode, &timeout, &interval, &accuracy),
+              20);
     EXPECT_EQ(mode, 2);
     EXPECT_EQ(timeout, 0x3C);
     EXPECT_EQ(interval, 1000u);
@@ -842,11 +1022,13 @@ TEST(PdsResponses, MissingMandatoryItemIsMinusFourAfterTheResultIsFilled) {
         std::function<int(const uint8_t*, int, QmiResult*)> parse;
     } cases[] = {
         {0x20, [&](const uint8_t* m, int n, QmiResult* r) { return zovQMIPDSGetGPSServiceStateResp(m, n, r, &a, &b); }},
-        {0x29, [&](const uint8_t* m, int n, QmiResult* r) { return zovQMIPDSGetDefaultTrackingSessionResp(m, n, r, &a, &b, &x, &y); }},
+        {0x29, [&](const uint8_t* m, int n,
+                   QmiResult* r) { return zovQMIPDSGetDefaultTrackingSessionResp(m, n, r, &a, &b, &x, &y); }},
         {0x30, [&](const uint8_t* m, int n, QmiResult* r) { return zovQMIPDSGetAutoTrackingStateResp(m, n, r, &a); }},
         {0x26, [&](const uint8_t* m, int n, QmiResult* r) { return zovQMIPDSGetNMEAConfigResp(m, n, r, &a, &b, &c); }},
         {0x32, [&](const uint8_t* m, int n, QmiResult* r) { return zovQMIPDSGetCOMPortConfigResp(m, n, r, &a); }},
-        {0x36, [&](const uint8_t* m, int n, QmiResult* r) { return zovQMIPDSGetGPSServiceVersionResp(m, n, r, &a, &b); }},
+        {0x36,
+         [&](const uint8_t* m, int n, QmiResult* r) { return zovQMIPDSGetGPSServiceVersionResp(m, n, r, &a, &b); }},
     };
     for (const Case& k : cases) {
         SCOPED_TRACE(k.id);
@@ -879,8 +1061,20 @@ TEST(PdsResponses, TrackingSessionCutShortByTheBufferIsMalformed) {
 }
 
 TEST(PdsResponses, GPSStateInformationIsCopiedAsOnTheWire) {
-    Bytes value = cat({{0x01}, le32(0x0000FFFF), le64(0x40490FDB00000000ull), le64(0xC05E800000000000ull), le32(1),
-                       le32(2), le32(3), le32(4), le16(2200), le32(5), {0x01}, seq(48, 0x80), le16(2201), le16(300),
+    Bytes value = cat({{0x01},
+                       le32(0x0000FFFF),
+                       le64(0x40490FDB00000000ull),
+                       le64(0xC05E800000000000ull),
+                       le32(1),
+                       le32(2),
+                       le32(3),
+                       le32(4),
+                       le16(2200),
+                       le32(5),
+                       {0x01},
+                       seq(48, 0x80),
+                       le16(2201),
+                       le16(300),
                        le16(168)});
     ASSERT_EQ(value.size(), 98u);
     Bytes msg = svcMessage(0x44, {result(), tlv(0x10, value)});
@@ -903,9 +1097,9 @@ TEST(PdsResponses, GPSStateInformationIsCopiedAsOnTheWire) {
 
 TEST(PdsResponses, XTRAParameterItemsYieldTheirFields) {
     Bytes medium = str("http");
-    Bytes msg = svcMessage(0x2B, {result(), tlv(0x10, cat({{0x01}, le16(48)})),
-                                  tlv(0x11, cat({{uint8_t(medium.size())}, medium})), tlv(0x12, {0x02}),
-                                  tlv(0x13, cat({le16(2200), le16(1440), le16(168)})), tlv(0x14, {0x01, 0x00})});
+    Bytes msg = svcMessage(
+        0x2B, {result(), tlv(0x10, cat({{0x01}, le16(48)})), tlv(0x11, cat({{uint8_t(medium.size())}, medium})),
+               tlv(0x12, {0x02}), tlv(0x13, cat({le16(2200), le16(1440), le16(168)})), tlv(0x14, {0x01, 0x00})});
     const uint8_t* m = msg.data();
     const int n = L(msg);
     uint8_t a = 0, b = 0;
@@ -934,7 +1128,9 @@ TEST(PdsResponses, XTRAParameterItemsYieldTheirFields) {
     EXPECT_EQ(zovQMIPDSGetXTRAParametersRespGetEmbeddedXTRAClientState(m, n, &a, nullptr), -1);
     Bytes bare = svcMessage(0x2B, {result()});
     EXPECT_EQ(zovQMIPDSGetXTRAParametersRespGetXTRADatabaseAutodownload(bare.data(), L(bare), &a, &w1), -3);
-    EXPECT_EQ(zovQMIPDSGetXTRAParametersRespGetXTRADatabaseDownloadMediumConfiguration(bare.data(), L(bare), &a, nullptr), -3);
+    EXPECT_EQ(
+        zovQMIPDSGetXTRAParametersRespGetXTRADatabaseDownloadMediumConfiguration(bare.data(), L(bare), &a, nullptr),
+        -3);
     EXPECT_EQ(zovQMIPDSGetXTRAParametersRespGetXTRADatabaseDownloadNetworkConfiguration(bare.data(), L(bare), &b), -3);
     EXPECT_EQ(zovQMIPDSGetXTRAParametersRespGetXTRADatabaseValidity(bare.data(), L(bare), &w1, &w2, &w3), -3);
     EXPECT_EQ(zovQMIPDSGetXTRAParametersRespGetEmbeddedXTRAClientState(bare.data(), L(bare), &a, &b), -3);
@@ -942,8 +1138,8 @@ TEST(PdsResponses, XTRAParameterItemsYieldTheirFields) {
 
 TEST(PdsResponses, AGPSServerAddressAndURL) {
     Bytes url = str("supl.example.net");
-    Bytes msg = svcMessage(0x2E, {result(), tlv(0x10, cat({le32(0x0A000001), le32(7275)})),
-                                  tlv(0x11, cat({{uint8_t(url.size())}, url}))});
+    Bytes msg = svcMessage(
+        0x2E, {result(), tlv(0x10, cat({le32(0x0A000001), le32(7275)})), tlv(0x11, cat({{uint8_t(url.size())}, url}))});
     uint32_t address = 0, port = 0;
     EXPECT_EQ(zovQMIPDSGetAGPSConfigRespGetAGPSLocationServerIPv4(msg.data(), L(msg), &address, &port), 8);
     EXPECT_EQ(address, 0x0A000001u);
@@ -1064,9 +1260,21 @@ TEST(PdsIndications, SmallEventReportItemsRequireTheirOutputsAndPresence) {
 }
 
 TEST(PdsIndications, ParsedPositionKeepsRawBitsOfItsSixtyFourBitFields) {
-    Bytes value = cat({le32(0xFFFFFFFF), le16(2024), {5, 3, 14, 12, 30, 45}, le16(500), {18},
-                       le64(0x000001234567890Aull), le32(9), le64(0x404A0C49BA5E353Full), le64(0xC05E8CCCCCCCCCCDull),
-                       seq(48, 0x60), {68}, le32(1), le32(2), le32(3), {0x01}});
+    Bytes value = cat({le32(0xFFFFFFFF),
+                       le16(2024),
+                       {5, 3, 14, 12, 30, 45},
+                       le16(500),
+                       {18},
+                       le64(0x000001234567890Aull),
+                       le32(9),
+                       le64(0x404A0C49BA5E353Full),
+                       le64(0xC05E8CCCCCCCCCCDull),
+                       seq(48, 0x60),
+                       {68},
+                       le32(1),
+                       le32(2),
+                       le32(3),
+                       {0x01}});
     ASSERT_EQ(value.size(), 105u);
     Bytes msg = indMessage(0x01, {tlv(0x13, value)});
     ParsedPositionData p = guarded<ParsedPositionData>();
@@ -1122,8 +1330,7 @@ TEST(PdsIndications, XTRADatabaseRequestListsServerEntries) {
     const Bytes third = bytesOf(e[2]);
     uint16_t maxSize = 0;
     uint8_t count = 0;
-    EXPECT_EQ(zovQMIPDSEventReportINDGetExternalXTRADatabaseRequest(msg.data(), L(msg), &maxSize, &count, e),
-              L(value));
+    EXPECT_EQ(zovQMIPDSEventReportINDGetExternalXTRADatabaseRequest(msg.data(), L(msg), &maxSize, &count, e), L(value));
     EXPECT_EQ(maxSize, 0x4000);
     EXPECT_EQ(count, 2);
     EXPECT_EQ(head(bytesOf(e[0]), 2), Bytes({0x04, 0x00}));

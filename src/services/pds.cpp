@@ -62,20 +62,15 @@ constexpr Seg kUMTS[] = {
 };
 #undef PDS_OFF
 
-template <size_t N>
-constexpr size_t count(const Seg (&)[N]) {
-    return N;
-}
-
 // Writes a prompt record as item `type`.  Every pointer block with a non-zero
 // length must have its pointer set: a null one is refused with -1, so that no
 // block is ever read through a null pointer.
-int addPrompt(uint8_t* buf, int bufsize, uint8_t type, const void* record, const Seg* segs, size_t nsegs) {
+template <size_t N>
+int addPrompt(uint8_t* buf, int bufsize, uint8_t type, const void* record, const Seg (&segs)[N]) {
     if (!buf || !record) return kErrArg;
     const uint8_t* rec = static_cast<const uint8_t*>(record);
     size_t n = 0;
-    for (size_t i = 0; i < nsegs; ++i) {
-        const Seg& s = segs[i];
+    for (const Seg& s : segs) {
         if (s.kind == kFixed) {
             n += s.n;
             continue;
@@ -83,9 +78,8 @@ int addPrompt(uint8_t* buf, int bufsize, uint8_t type, const void* record, const
         n += 1u + rec[s.off];
         if (s.kind == kPointer && rec[s.off] != 0 && !ldPtr(rec + s.ptr)) return kErrArg;
     }
-    return add(buf, bufsize, type, wfn(n, [=](uint8_t* p) {
-                   for (size_t i = 0; i < nsegs; ++i) {
-                       const Seg& s = segs[i];
+    return add(buf, bufsize, type, wfn(n, [rec, &segs](uint8_t* p) {
+                   for (const Seg& s : segs) {
                        if (s.kind == kFixed) {
                            copyBytes(p, rec + s.off, s.n);
                            p += s.n;
@@ -115,8 +109,10 @@ auto readPrompt(R* prompt, const Seg (&segs)[N]) {
             }
             const uint8_t len = d.u8(o);
             out.put8(s.off, len);
-            if (s.kind == kInline) out.copy(s.off + 1, o + 1, len);
-            else d.copy(out.ptr(s.ptr), o + 1, len);
+            if (s.kind == kInline)
+                out.copy(s.off + 1, o + 1, len);
+            else
+                d.copy(out.ptr(s.ptr), o + 1, len);
             o += 1u + len;
         }
     };
@@ -208,24 +204,23 @@ extern "C" int zovQMIPDSEventReportINDGetPositionSessionStatus(const uint8_t* ms
 extern "C" int zovQMIPDSEventReportINDGetParsedPositionData(const uint8_t* msg, int len, ParsedPositionData* data) {
     return get(msg, len, 0x01, 0x13, all(data), raw(data, sizeof *data));
 }
-extern "C" int zovQMIPDSEventReportINDGetExternalXTRADatabaseRequest(const uint8_t* msg, int len,
-                                                                    uint16_t* maxFileSize, uint8_t* count,
-                                                                    LengthPrefixedEntry* entries) {
+extern "C" int zovQMIPDSEventReportINDGetExternalXTRADatabaseRequest(const uint8_t* msg, int len, uint16_t* maxFileSize,
+                                                                     uint8_t* count, LengthPrefixedEntry* entries) {
     return get(msg, len, 0x01, 0x14, all(maxFileSize, count), [=](Dec& d) {
         d.put(maxFileSize, d.le16(0));
         entryList(d, 2, count, entries);
     });
 }
 extern "C" int zovQMIPDSEventReportINDGetExternalTimeInjectionRequest(const uint8_t* msg, int len,
-                                                                     uint32_t* delayThreshold, uint8_t* count,
-                                                                     LengthPrefixedEntry* entries) {
+                                                                      uint32_t* delayThreshold, uint8_t* count,
+                                                                      LengthPrefixedEntry* entries) {
     return get(msg, len, 0x01, 0x15, all(delayThreshold, count), [=](Dec& d) {
         d.put(delayThreshold, d.le32(0));
         entryList(d, 4, count, entries);
     });
 }
 extern "C" int zovQMIPDSEventReportINDGetExternalWiFiPositionRequest(const uint8_t* msg, int len, uint8_t* request,
-                                                                    uint16_t* interval) {
+                                                                     uint16_t* interval) {
     return get(msg, len, 0x01, 0x16, all(request, interval), [=](Dec& d) {
         d.put(request, d.u8(0));
         d.put(interval, d.le16(1));
@@ -233,8 +228,8 @@ extern "C" int zovQMIPDSEventReportINDGetExternalWiFiPositionRequest(const uint8
 }
 // Value: u32, u8, count, then count 18-byte entries laid out as the records.
 extern "C" int zovQMIPDSEventReportINDGetSatelliteInformation(const uint8_t* msg, int len, uint32_t* validMask,
-                                                             uint8_t* iono, uint8_t* count,
-                                                             SatelliteInformationEntry* entries) {
+                                                              uint8_t* iono, uint8_t* count,
+                                                              SatelliteInformationEntry* entries) {
     return get(msg, len, 0x01, 0x17, all(validMask, iono, count), [=](Dec& d) {
         d.put(validMask, d.le32(0));
         d.put(iono, d.u8(4));
@@ -244,15 +239,15 @@ extern "C" int zovQMIPDSEventReportINDGetSatelliteInformation(const uint8_t* msg
     });
 }
 extern "C" int zovQMIPDSEventReportINDGetNetworkInitiatedPromptVX(const uint8_t* msg, int len,
-                                                                 NetworkInitiatedPromptVX* prompt) {
+                                                                  NetworkInitiatedPromptVX* prompt) {
     return get(msg, len, 0x01, 0x18, all(prompt), readPrompt(prompt, kVX));
 }
 extern "C" int zovQMIPDSEventReportINDGetNetworkInitiatedPromptSUPL(const uint8_t* msg, int len,
-                                                                   NetworkInitiatedPromptSUPL* prompt) {
+                                                                    NetworkInitiatedPromptSUPL* prompt) {
     return get(msg, len, 0x01, 0x19, all(prompt), readPrompt(prompt, kSUPL));
 }
 extern "C" int zovQMIPDSEventReportINDGetNetworkInitiatedPromptUMTSCP(const uint8_t* msg, int len,
-                                                                     NetworkInitiatedPromptUMTSCP* prompt) {
+                                                                      NetworkInitiatedPromptUMTSCP* prompt) {
     return get(msg, len, 0x01, 0x1A, all(prompt), readPrompt(prompt, kUMTS));
 }
 extern "C" int zovQMIPDSEventReportINDGetPDSCommEvents(const uint8_t* msg, int len, uint8_t* type, uint8_t* state) {
@@ -276,7 +271,7 @@ auto serviceState(uint8_t* enabled, uint8_t* trackingState) {
 }  // namespace
 extern "C" int zovQMIPDSGetGPSServiceStateReq(uint8_t* buf, int bufsize) { return req(buf, bufsize, 0x20); }
 extern "C" int zovQMIPDSGetGPSServiceStateResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* enabled,
-                                              uint8_t* trackingState) {
+                                               uint8_t* trackingState) {
     return resp(msg, len, result, 0x20, all(enabled, trackingState), serviceState(enabled, trackingState));
 }
 extern "C" int zovQMIPDSGPSServiceStateIND(const uint8_t* msg, int len, uint8_t* enabled, uint8_t* trackingState) {
@@ -294,7 +289,7 @@ extern "C" int zovQMIPDSSetGPSServiceStateResp(const uint8_t* msg, int len, QmiR
 // GetDefaultTrackingSession 0x29
 extern "C" int zovQMIPDSGetDefaultTrackingSessionReq(uint8_t* buf, int bufsize) { return req(buf, bufsize, 0x29); }
 extern "C" int zovQMIPDSGetDefaultTrackingSessionResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* mode,
-                                                     uint8_t* timeout, uint32_t* interval, uint32_t* accuracy) {
+                                                      uint8_t* timeout, uint32_t* interval, uint32_t* accuracy) {
     return resp(msg, len, result, 0x29, all(mode, timeout, interval, accuracy), [=](Dec& d) {
         d.put(mode, d.u8(0));
         d.put(timeout, d.u8(1));
@@ -305,7 +300,7 @@ extern "C" int zovQMIPDSGetDefaultTrackingSessionResp(const uint8_t* msg, int le
 
 // SetDefaultTrackingSession 0x2A
 extern "C" int zovQMIPDSSetDefaultTrackingSessionReq(uint8_t* buf, int bufsize, uint8_t mode, uint8_t timeout,
-                                                    uint32_t interval, uint32_t accuracy) {
+                                                     uint32_t interval, uint32_t accuracy) {
     return reqTlv(buf, bufsize, 0x2A, w8(mode), w8(timeout), w32(interval), w32(accuracy));
 }
 extern "C" int zovQMIPDSSetDefaultTrackingSessionResp(const uint8_t* msg, int len, QmiResult* result) {
@@ -331,12 +326,11 @@ extern "C" int zovQMIPDSDetermineSinglePositionReq(uint8_t* buf, int bufsize) { 
 extern "C" int zovQMIPDSDetermineSinglePositionReqAddSinglePositionMode(uint8_t* buf, int bufsize, uint8_t mode) {
     return add(buf, bufsize, 0x10, w8(mode));
 }
-extern "C" int zovQMIPDSDetermineSinglePositionReqAddSinglePositionTimeout(uint8_t* buf, int bufsize,
-                                                                          uint8_t timeout) {
+extern "C" int zovQMIPDSDetermineSinglePositionReqAddSinglePositionTimeout(uint8_t* buf, int bufsize, uint8_t timeout) {
     return add(buf, bufsize, 0x11, w8(timeout));
 }
 extern "C" int zovQMIPDSDetermineSinglePositionReqAddSinglePositionAccuracy(uint8_t* buf, int bufsize,
-                                                                           uint32_t accuracy) {
+                                                                            uint32_t accuracy) {
     return add(buf, bufsize, 0x12, w32(accuracy));
 }
 extern "C" int zovQMIPDSDetermineSinglePositionResp(const uint8_t* msg, int len, QmiResult* result) {
@@ -348,17 +342,17 @@ extern "C" int zovQMIPDSSendNIResponseReq(uint8_t* buf, int bufsize, uint8_t act
     return reqTlv(buf, bufsize, 0x3C, w8(action));
 }
 extern "C" int zovQMIPDSSendNIResponseReqAddNetworkInitiatedPromptVX(uint8_t* buf, int bufsize,
-                                                                    const NetworkInitiatedPromptVX* prompt) {
-    return addPrompt(buf, bufsize, 0x10, prompt, kVX, count(kVX));
+                                                                     const NetworkInitiatedPromptVX* prompt) {
+    return addPrompt(buf, bufsize, 0x10, prompt, kVX);
 }
 extern "C" int zovQMIPDSSendNIResponseReqAddNetworkInitiatedPromptSUPL(uint8_t* buf, int bufsize,
-                                                                      const NetworkInitiatedPromptSUPL* prompt) {
-    return addPrompt(buf, bufsize, 0x11, prompt, kSUPL, count(kSUPL));
+                                                                       const NetworkInitiatedPromptSUPL* prompt) {
+    return addPrompt(buf, bufsize, 0x11, prompt, kSUPL);
 }
 extern "C" int zovQMIPDSSendNIResponseReqAddNetworkInitiatedPromptUMTSCP(uint8_t* buf, int bufsize,
-                                                                        const NetworkInitiatedPromptUMTSCP* prompt) {
+                                                                         const NetworkInitiatedPromptUMTSCP* prompt) {
     // Deliberately item 0x11, the same type as the SUPL answer.
-    return addPrompt(buf, bufsize, 0x11, prompt, kUMTS, count(kUMTS));
+    return addPrompt(buf, bufsize, 0x11, prompt, kUMTS);
 }
 extern "C" int zovQMIPDSSendNIResponseResp(const uint8_t* msg, int len, QmiResult* result) {
     return resp(msg, len, result, 0x3C);
@@ -376,7 +370,7 @@ extern "C" int zovQMIPDSGetGPSStateInfoResp(const uint8_t* msg, int len, QmiResu
     return resp(msg, len, result, 0x44);
 }
 extern "C" int zovQMIPDSGetGPSStateInfoRespGetGPSStateInformation(const uint8_t* msg, int len,
-                                                                 GPSStateInformation* info) {
+                                                                  GPSStateInformation* info) {
     return get(msg, len, 0x44, 0x10, all(info), raw(info, sizeof *info));
 }
 
@@ -385,7 +379,7 @@ extern "C" int zovQMIPDSGetGPSStateInfoRespGetGPSStateInformation(const uint8_t*
 // GetNMEAConfig 0x26
 extern "C" int zovQMIPDSGetNMEAConfigReq(uint8_t* buf, int bufsize) { return req(buf, bufsize, 0x26); }
 extern "C" int zovQMIPDSGetNMEAConfigResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* sentenceMask,
-                                         uint8_t* port, uint8_t* reporting) {
+                                          uint8_t* port, uint8_t* reporting) {
     return resp(msg, len, result, 0x26, all(sentenceMask, port, reporting), [=](Dec& d) {
         d.put(sentenceMask, d.u8(0));
         d.put(port, d.u8(1));
@@ -395,7 +389,7 @@ extern "C" int zovQMIPDSGetNMEAConfigResp(const uint8_t* msg, int len, QmiResult
 
 // SetNMEAConfig 0x27
 extern "C" int zovQMIPDSSetNMEAConfigReq(uint8_t* buf, int bufsize, uint8_t sentenceMask, uint8_t port,
-                                        uint8_t reporting) {
+                                         uint8_t reporting) {
     return reqTlv(buf, bufsize, 0x27, w8(sentenceMask), w8(port), w8(reporting));
 }
 extern "C" int zovQMIPDSSetNMEAConfigResp(const uint8_t* msg, int len, QmiResult* result) {
@@ -404,7 +398,7 @@ extern "C" int zovQMIPDSSetNMEAConfigResp(const uint8_t* msg, int len, QmiResult
 
 // InjectRelativeTimeRef 0x28
 extern "C" int zovQMIPDSInjectRelativeTimeRefReq(uint8_t* buf, int bufsize, uint64_t systemTime,
-                                                uint16_t discontinuities) {
+                                                 uint16_t discontinuities) {
     return reqTlv(buf, bufsize, 0x28, w64(systemTime), w16(discontinuities));
 }
 extern "C" int zovQMIPDSInjectRelativeTimeRefResp(const uint8_t* msg, int len, QmiResult* result) {
@@ -416,23 +410,23 @@ extern "C" int zovQMIPDSGetXTRAParametersReq(uint8_t* buf, int bufsize) { return
 extern "C" int zovQMIPDSGetXTRAParametersResp(const uint8_t* msg, int len, QmiResult* result) {
     return resp(msg, len, result, 0x2B);
 }
-extern "C" int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseAutodownload(const uint8_t* msg, int len,
-                                                                        uint8_t* enabled, uint16_t* interval) {
+extern "C" int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseAutodownload(const uint8_t* msg, int len, uint8_t* enabled,
+                                                                         uint16_t* interval) {
     return get(msg, len, 0x2B, 0x10, all(enabled, interval), [=](Dec& d) {
         d.put(enabled, d.u8(0));
         d.put(interval, d.le16(1));
     });
 }
 extern "C" int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseDownloadMediumConfiguration(const uint8_t* msg, int len,
-                                                                                       uint8_t* length, void* data) {
+                                                                                        uint8_t* length, void* data) {
     return get(msg, len, 0x2B, 0x11, all(length), counted(length, data));
 }
 extern "C" int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseDownloadNetworkConfiguration(const uint8_t* msg, int len,
-                                                                                        uint8_t* network) {
+                                                                                         uint8_t* network) {
     return get(msg, len, 0x2B, 0x12, all(network), scalar(network));
 }
 extern "C" int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseValidity(const uint8_t* msg, int len, uint16_t* startWeek,
-                                                                    uint16_t* startMinutes, uint16_t* validHours) {
+                                                                     uint16_t* startMinutes, uint16_t* validHours) {
     return get(msg, len, 0x2B, 0x13, all(startWeek, startMinutes, validHours), [=](Dec& d) {
         d.put(startWeek, d.le16(0));
         d.put(startMinutes, d.le16(2));
@@ -440,7 +434,7 @@ extern "C" int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseValidity(const uint8
     });
 }
 extern "C" int zovQMIPDSGetXTRAParametersRespGetEmbeddedXTRAClientState(const uint8_t* msg, int len,
-                                                                       uint8_t* dataClient, uint8_t* timeClient) {
+                                                                        uint8_t* dataClient, uint8_t* timeClient) {
     return get(msg, len, 0x2B, 0x14, all(dataClient, timeClient), [=](Dec& d) {
         d.put(dataClient, d.u8(0));
         d.put(timeClient, d.u8(1));
@@ -450,19 +444,19 @@ extern "C" int zovQMIPDSGetXTRAParametersRespGetEmbeddedXTRAClientState(const ui
 // SetXTRAParameters 0x2C
 extern "C" int zovQMIPDSSetXTRAParametersReq(uint8_t* buf, int bufsize) { return req(buf, bufsize, 0x2C); }
 extern "C" int zovQMIPDSSetXTRAParametersReqAddXTRADatabaseAutodownload(uint8_t* buf, int bufsize, uint8_t enabled,
-                                                                       uint16_t interval) {
+                                                                        uint16_t interval) {
     return add(buf, bufsize, 0x10, w8(enabled), w16(interval));
 }
 extern "C" int zovQMIPDSSetXTRAParametersReqAddXTRADatabaseDownloadConfiguration(uint8_t* buf, int bufsize,
-                                                                                uint8_t length, const void* data) {
+                                                                                 uint8_t length, const void* data) {
     return add(buf, bufsize, 0x11, w8(length), wbytes(length, data));
 }
 extern "C" int zovQMIPDSSetXTRAParametersReqAddXTRADatabaseNetworkConfiguration(uint8_t* buf, int bufsize,
-                                                                               uint8_t network) {
+                                                                                uint8_t network) {
     return add(buf, bufsize, 0x12, w8(network));
 }
 extern "C" int zovQMIPDSSetXTRAParametersReqAddEmbeddedXTRAClientState(uint8_t* buf, int bufsize, uint8_t dataClient,
-                                                                      uint8_t timeClient) {
+                                                                       uint8_t timeClient) {
     return add(buf, bufsize, 0x14, w8(dataClient), w8(timeClient));
 }
 extern "C" int zovQMIPDSSetXTRAParametersResp(const uint8_t* msg, int len, QmiResult* result) {
@@ -481,25 +475,25 @@ extern "C" int zovQMIPDSGetAGPSConfigResp(const uint8_t* msg, int len, QmiResult
     return resp(msg, len, result, 0x2E);
 }
 extern "C" int zovQMIPDSGetAGPSConfigRespGetAGPSLocationServerIPv4(const uint8_t* msg, int len, uint32_t* address,
-                                                                  uint32_t* port) {
+                                                                   uint32_t* port) {
     return get(msg, len, 0x2E, 0x10, all(address, port), [=](Dec& d) {
         d.put(address, d.le32(0));
         d.put(port, d.le32(4));
     });
 }
 extern "C" int zovQMIPDSGetAGPSConfigRespGetAGPSLocationServerURL(const uint8_t* msg, int len, uint8_t* length,
-                                                                 void* data) {
+                                                                  void* data) {
     return get(msg, len, 0x2E, 0x11, all(length), counted(length, data));
 }
 
 // SetAGPSConfig 0x2F
 extern "C" int zovQMIPDSSetAGPSConfigReq(uint8_t* buf, int bufsize) { return req(buf, bufsize, 0x2F); }
 extern "C" int zovQMIPDSSetAGPSConfigReqAddAGPSLocationServer(uint8_t* buf, int bufsize, uint32_t address,
-                                                             uint32_t port) {
+                                                              uint32_t port) {
     return add(buf, bufsize, 0x10, w32(address), w32(port));
 }
 extern "C" int zovQMIPDSSetAGPSConfigReqAddAGPSLocationServerURL(uint8_t* buf, int bufsize, uint8_t length,
-                                                                const void* data) {
+                                                                 const void* data) {
     return add(buf, bufsize, 0x11, w8(length), wbytes(length, data));
 }
 extern "C" int zovQMIPDSSetAGPSConfigResp(const uint8_t* msg, int len, QmiResult* result) {
@@ -535,7 +529,7 @@ extern "C" int zovQMIPDSResetGPSServiceDataResp(const uint8_t* msg, int len, Qmi
 // GetGPSServiceVersion 0x36
 extern "C" int zovQMIPDSGetGPSServiceVersionReq(uint8_t* buf, int bufsize) { return req(buf, bufsize, 0x36); }
 extern "C" int zovQMIPDSGetGPSServiceVersionResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* major,
-                                                uint8_t* minor) {
+                                                 uint8_t* minor) {
     return resp(msg, len, result, 0x36, all(major, minor), [=](Dec& d) {
         d.put(major, d.u8(0));
         d.put(minor, d.u8(1));
@@ -544,7 +538,7 @@ extern "C" int zovQMIPDSGetGPSServiceVersionResp(const uint8_t* msg, int len, Qm
 
 // InjectXTRAData 0x37: item 0x01 is u8, u16, the data length as u16, the data.
 extern "C" int zovQMIPDSInjectXTRADataReq(uint8_t* buf, int bufsize, uint8_t sequence, uint16_t totalLength,
-                                         uint16_t length, const void* data) {
+                                          uint16_t length, const void* data) {
     return reqTlv(buf, bufsize, 0x37, w8(sequence), w16(totalLength), w16(length), wbytes(length, data));
 }
 extern "C" int zovQMIPDSInjectXTRADataResp(const uint8_t* msg, int len, QmiResult* result) {
@@ -569,7 +563,7 @@ extern "C" int zovQMIPDSInjectPositionDataReqAddAltitudeFromSeaLevel(uint8_t* bu
     return add(buf, bufsize, 0x14, w32(altitude));
 }
 extern "C" int zovQMIPDSInjectPositionDataReqAddHorizontalUncertaintyCircular(uint8_t* buf, int bufsize,
-                                                                             uint32_t uncertainty) {
+                                                                              uint32_t uncertainty) {
     return add(buf, bufsize, 0x15, w32(uncertainty));
 }
 extern "C" int zovQMIPDSInjectPositionDataReqAddVerticalUncertainty(uint8_t* buf, int bufsize, uint32_t uncertainty) {
@@ -597,14 +591,13 @@ extern "C" int zovQMIPDSInjectWiFiPositionDataReqAddWiFiPositionTime(uint8_t* bu
     return add(buf, bufsize, 0x10, w32(time));
 }
 extern "C" int zovQMIPDSInjectWiFiPositionDataReqAddWiFiPosition(uint8_t* buf, int bufsize, uint32_t latitude,
-                                                                uint32_t longitude, uint16_t uncertainty,
-                                                                uint8_t confidence, uint8_t reliability) {
+                                                                 uint32_t longitude, uint16_t uncertainty,
+                                                                 uint8_t confidence, uint8_t reliability) {
     return add(buf, bufsize, 0x11, w32(latitude), w32(longitude), w16(uncertainty), w8(confidence), w8(reliability));
 }
 // Count, then the caller's 13-byte entries as they are (they mirror the wire).
-extern "C" int zovQMIPDSInjectWiFiPositionDataReqAddWiFiPositionAPInformation(uint8_t* buf, int bufsize,
-                                                                             uint8_t count,
-                                                                             const WiFiAccessPointEntry* entries) {
+extern "C" int zovQMIPDSInjectWiFiPositionDataReqAddWiFiPositionAPInformation(uint8_t* buf, int bufsize, uint8_t count,
+                                                                              const WiFiAccessPointEntry* entries) {
     return add(buf, bufsize, 0x12, w8(count), wbytes(count * sizeof(WiFiAccessPointEntry), entries));
 }
 extern "C" int zovQMIPDSInjectWiFiPositionDataResp(const uint8_t* msg, int len, QmiResult* result) {
@@ -632,8 +625,8 @@ extern "C" int zovQMIPDSSetSBASConfigResp(const uint8_t* msg, int len, QmiResult
 // InjectAbsTimeRef 0x3D
 extern "C" int zovQMIPDSInjectAbsTimeRefReq(uint8_t* buf, int bufsize) { return req(buf, bufsize, 0x3D); }
 extern "C" int zovQMIPDSInjectAbsTimeRefReqAddAbsoluteTimeInjection(uint8_t* buf, int bufsize, uint64_t time,
-                                                                   uint32_t uncertainty, uint8_t timeBase,
-                                                                   uint8_t forceAccept) {
+                                                                    uint32_t uncertainty, uint8_t timeBase,
+                                                                    uint8_t forceAccept) {
     // Deliberately appended as item 0x01 behind a header written with no items.
     return add(buf, bufsize, 0x01, w64(time), w32(uncertainty), w8(timeBase), w8(forceAccept));
 }
@@ -647,12 +640,12 @@ extern "C" int zovQMIPDSInjectEFSDataReq(uint8_t* buf, int bufsize, const EFSFil
     if (!file) return kErrArg;
     const uint8_t* f = reinterpret_cast<const uint8_t*>(file);
     const uint32_t dataLength = ld32(f + offsetof(EFSFileRecord, dataLength));
-    // The total is 18 + name + data; checked in 64 bits so a huge data length
-    // cannot wrap past bufsize.
-    if (uint64_t{18} + file->nameLength + dataLength > static_cast<uint64_t>(bufsize < 0 ? 0 : bufsize))
-        return kErrArg;
-    return reqTlv(buf, bufsize, 0x3E, w8(file->nameLength), wbytes(file->nameLength, ldPtr(f + offsetof(EFSFileRecord, name))),
-                  w8(file->fileOperation), w32(dataLength), w8(file->partNumber), w8(file->totalParts),
+    // The total is 18 + name + data, compared in 64 bits so that a huge data
+    // length cannot wrap below bufsize.
+    if (uint64_t{18} + file->nameLength + dataLength > static_cast<uint64_t>(bufsize < 0 ? 0 : bufsize)) return kErrArg;
+    return reqTlv(buf, bufsize, 0x3E, w8(file->nameLength),
+                  wbytes(file->nameLength, ldPtr(f + offsetof(EFSFileRecord, name))), w8(file->fileOperation),
+                  w32(dataLength), w8(file->partNumber), w8(file->totalParts),
                   wbytes(dataLength, ldPtr(f + offsetof(EFSFileRecord, data))));
 }
 extern "C" int zovQMIPDSInjectEFSDataResp(const uint8_t* msg, int len, QmiResult* result) {
