@@ -377,7 +377,7 @@ TEST(RequestSkeleton, MandatoryItemFollowsTheHeader) {
 }
 
 TEST(RequestSkeleton, OptionalItemChecksBufferThenDataThenRoom) {
-    Bytes buf = buffer(12);
+    Bytes buf = buffer(16);
     ASSERT_EQ(zq::req(buf.data(), 12, kId), 7);
     EXPECT_EQ(zq::add(nullptr, 12, 0x10, zq::w8(1)), -1);
     EXPECT_EQ(zq::add(buf.data(), 12, 0x10, zq::wbytes(3, nullptr)), -1);
