@@ -64,7 +64,7 @@ QmiTlvRecord record(uint8_t type, const Bytes& value) {
     uint8_t* len = reinterpret_cast<uint8_t*>(&r) + 1;
     len[0] = uint8_t(value.size());
     len[1] = uint8_t(value.size() >> 8);
-    std::memcpy(r.value, value.data(), value.size());
+    if (!value.empty()) std::memcpy(r.value, value.data(), value.size());
     return r;
 }
 
