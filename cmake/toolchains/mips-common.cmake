@@ -1,5 +1,5 @@
-# Shared part of the MIPS toolchain files.  Expects ZOVQMI_TRIPLE and
-# ZOVQMI_QEMU to be set by the including file.
+# Common settings of the MIPS toolchain files.  Expects ZOVQMI_TRIPLE,
+# ZOVQMI_PROCESSOR and ZOVQMI_QEMU to be set by the including file.
 #
 # Uses Debian's cross compilers (g++-<triple>) and runs target programs with
 # qemu-user, so that ctest executes the target's test programs under
