@@ -188,7 +188,318 @@ ZOVQMI_API int zovQMICTLGetPwrSaveModeReq(uint8_t* buf, int bufsize);
 ZOVQMI_API int zovQMICTLGetPwrSaveModeResp(const uint8_t* msg, int len, QmiResult* result, uint32_t* powerSaveMode);
 
 /* ---------------------------------------------------------------- WDS -- */
-/* (WDS declarations) */
+
+#pragma pack(push, 1)
+
+/* WDS: the current channel rate (16 bytes): four u32 as on the wire. */
+typedef struct WDSChannelRate {
+    uint32_t rates[4];
+} WDSChannelRate;
+
+/* WDS: one entry of the profile list: profile type, profile index, name
+ * length and a caller-owned buffer that receives the name (may be null).
+ * 7 bytes on 32-bit hosts. */
+typedef struct WDSProfileListEntry {
+    uint8_t profileType;
+    uint8_t profileIndex;
+    uint8_t nameLength;
+    uint8_t* name;
+} WDSProfileListEntry;
+
+/* WDS: UMTS quality of service of a profile (33 bytes, wire layout). */
+typedef struct WDSUMTSQoS {
+    uint8_t trafficClass;
+    uint32_t maxUplinkBitrate;
+    uint32_t maxDownlinkBitrate;
+    uint32_t guaranteedUplinkBitrate;
+    uint32_t guaranteedDownlinkBitrate;
+    uint8_t deliveryOrder;
+    uint32_t maxSDUSize;
+    uint8_t sduErrorRatio;
+    uint8_t residualBitErrorRatio;
+    uint8_t deliveryErroneousSDUs;
+    uint32_t transferDelay;
+    uint32_t trafficHandlingPriority;
+} WDSUMTSQoS;
+
+/* WDS: GPRS quality of service of a profile (20 bytes, wire layout). */
+typedef struct WDSGPRSQoS {
+    uint32_t precedenceClass;
+    uint32_t delayClass;
+    uint32_t reliabilityClass;
+    uint32_t peakThroughputClass;
+    uint32_t meanThroughputClass;
+} WDSGPRSQoS;
+
+/* WDS: a traffic flow template filter of a profile (39 bytes, wire layout);
+ * the 21 leading bytes travel as they are. */
+typedef struct WDSTFTFilter {
+    uint8_t leading[21];
+    uint16_t destinationPortStart;
+    uint16_t destinationPortRange;
+    uint16_t sourcePortStart;
+    uint16_t sourcePortRange;
+    uint32_t securityParameterIndex;
+    uint16_t typeOfServiceMask;
+    uint32_t flowLabel;
+} WDSTFTFilter;
+
+/* WDS: LTE quality of service of a profile (17 bytes, wire layout). */
+typedef struct WDSLTEQoS {
+    uint8_t qci;
+    uint32_t guaranteedUplinkBitrate;
+    uint32_t guaranteedDownlinkBitrate;
+    uint32_t maxUplinkBitrate;
+    uint32_t maxDownlinkBitrate;
+} WDSLTEQoS;
+
+/* WDS: one entry of a runtime name list (P-CSCF names, domain names):
+ * name length and a caller-owned buffer that receives the name (may be
+ * null).  6 bytes on 32-bit hosts. */
+typedef struct WDSNameListEntry {
+    uint16_t length;
+    uint8_t* name;
+} WDSNameListEntry;
+
+#pragma pack(pop)
+
+/* Composite profile items (UMTS, GPRS, LTE QoS, TFT filters) and IPv6
+ * addresses cross as byte pointers to the records above (or to 16 bytes in
+ * network order); the channel rate likewise.  Profile item parsers take the
+ * id of the response they read: 0x002B, 0x002C and, for item types 0x10 to
+ * 0x1E, 0x002D; any other id gives -1. */
+ZOVQMI_API int zovQMIWDSResetReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSResetResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSSetEventReportReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSSetEventReportReqAddCurrentChannelRateIndicator(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMIWDSSetEventReportReqAddTransferStatisticsIndicator(uint8_t* buf, int bufsize, uint8_t period,
+                                                                        uint32_t mask);
+ZOVQMI_API int zovQMIWDSSetEventReportReqAddCurrentDataBearerTechnologyIndicatorDeprecated(uint8_t* buf, int bufsize,
+                                                                                           uint8_t report);
+ZOVQMI_API int zovQMIWDSSetEventReportReqAddDormancyStatusIndicator(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMIWDSSetEventReportReqAddCurrentDataBearerTechnologyIndicator(uint8_t* buf, int bufsize,
+                                                                                 uint8_t report);
+ZOVQMI_API int zovQMIWDSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSEventReportIND(const uint8_t* msg, int len);
+ZOVQMI_API int zovQMIWDSEventReportINDGetTxPacketsOK(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSEventReportINDGetRxPacketsOK(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSEventReportINDGetTxPacketsErrors(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSEventReportINDGetRxPacketsErrors(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSEventReportINDGetTxOverflows(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSEventReportINDGetRxOverflows(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSEventReportINDGetChannelRate(const uint8_t* msg, int len, uint32_t* first, uint32_t* second);
+ZOVQMI_API int zovQMIWDSEventReportINDGetDataBearerTechnology(const uint8_t* msg, int len, uint8_t* technology);
+ZOVQMI_API int zovQMIWDSEventReportINDGetDormancyStatus(const uint8_t* msg, int len, uint8_t* status);
+ZOVQMI_API int zovQMIWDSEventReportINDGetTxBytesOK(const uint8_t* msg, int len, uint64_t* count);
+ZOVQMI_API int zovQMIWDSEventReportINDGetRxBytesOK(const uint8_t* msg, int len, uint64_t* count);
+ZOVQMI_API int zovQMIWDSEventReportINDGetCurrentDataBearerTechnology(const uint8_t* msg, int len,
+                                                                     uint8_t* technology, uint32_t* first,
+                                                                     uint32_t* second);
+ZOVQMI_API int zovQMIWDSAbortReq(uint8_t* buf, int bufsize, uint16_t value);
+ZOVQMI_API int zovQMIWDSAbortResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddPrimaryDNSAddressPreference(uint8_t* buf, int bufsize,
+                                                                               uint32_t address);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddSecondaryDNSAddressPreference(uint8_t* buf, int bufsize,
+                                                                                 uint32_t address);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddPrimaryNBNSAddressPreference(uint8_t* buf, int bufsize,
+                                                                                uint32_t address);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddSecondaryNBNSAddressPreference(uint8_t* buf, int bufsize,
+                                                                                  uint32_t address);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddContextAPNName(uint8_t* buf, int bufsize, uint16_t length,
+                                                                  const uint8_t* data);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddIPAddressPreference(uint8_t* buf, int bufsize, uint32_t address);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddAuthenticationPreference(uint8_t* buf, int bufsize,
+                                                                            uint8_t preference);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddUsername(uint8_t* buf, int bufsize, uint16_t length,
+                                                            const uint8_t* data);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddPassword(uint8_t* buf, int bufsize, uint16_t length,
+                                                            const uint8_t* data);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddIPFamilyPreference(uint8_t* buf, int bufsize, uint8_t family);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddTechnologyPreference(uint8_t* buf, int bufsize,
+                                                                        uint8_t preference);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAdd3GPPConfiguredProfileIdentifier(uint8_t* buf, int bufsize,
+                                                                                   uint8_t profileIndex);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAdd3GPP2ConfiguredProfileIdentifier(uint8_t* buf, int bufsize,
+                                                                                    uint8_t profileIndex);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddExtendedTechnologyPreference(uint8_t* buf, int bufsize,
+                                                                                uint16_t preference);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddCallTypeIdentifier(uint8_t* buf, int bufsize, uint8_t callType);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceResp(const uint8_t* msg, int len, QmiResult* result, uint32_t* handle);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceRespGetCallEndReason(const uint8_t* msg, int len, uint16_t* reason);
+ZOVQMI_API int zovQMIWDSStartNetworkInterfaceRespGetVerboseCallEndReason(const uint8_t* msg, int len, uint16_t* type,
+                                                                         uint16_t* reason);
+ZOVQMI_API int zovQMIWDSStopNetworkInterfaceReq(uint8_t* buf, int bufsize, uint32_t handle);
+ZOVQMI_API int zovQMIWDSStopNetworkInterfaceResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSGetPktSrvcStatusReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGetPktSrvcStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status);
+ZOVQMI_API int zovQMIWDSPktSrvcStatusIND(const uint8_t* msg, int len, uint8_t* status, uint8_t* second);
+ZOVQMI_API int zovQMIWDSPktSrvcStatusINDGetCallEndReason(const uint8_t* msg, int len, uint16_t* reason);
+ZOVQMI_API int zovQMIWDSPktSrvcStatusINDGetVerboseCallEndReason(const uint8_t* msg, int len, uint16_t* type,
+                                                                uint16_t* reason);
+ZOVQMI_API int zovQMIWDSPktSrvcStatusINDGetIPFamily(const uint8_t* msg, int len, uint8_t* family);
+ZOVQMI_API int zovQMIWDSGetCurrentChannelRateReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGetCurrentChannelRateResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* rates);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsReq(uint8_t* buf, int bufsize, uint32_t mask);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetTxPacketsOK(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetRxPacketsOK(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetTxPacketsErrors(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetRxPacketsErrors(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetTxOverflows(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetRxOverflows(const uint8_t* msg, int len, uint32_t* count);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetTxBytesOK(const uint8_t* msg, int len, uint64_t* count);
+ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetRxBytesOK(const uint8_t* msg, int len, uint64_t* count);
+ZOVQMI_API int zovQMIWDSGoDormantReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGoDormantResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSGoActiveReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGoActiveResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSCreateProfileReq(uint8_t* buf, int bufsize, uint8_t profileType);
+ZOVQMI_API int zovQMIWDSCreateProfileResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* profileType,
+                                          uint8_t* profileIndex);
+ZOVQMI_API int zovQMIWDSModifyProfileSettingsReq(uint8_t* buf, int bufsize, uint8_t profileType,
+                                                 uint8_t profileIndex);
+ZOVQMI_API int zovQMIWDSModifyProfileSettingsResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSDeleteProfileReq(uint8_t* buf, int bufsize, uint8_t profileType, uint8_t profileIndex);
+ZOVQMI_API int zovQMIWDSDeleteProfileResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSGetProfileListReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGetProfileListResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
+                                           WDSProfileListEntry* list);
+ZOVQMI_API int zovQMIWDSGetProfileSettingsReq(uint8_t* buf, int bufsize, uint8_t profileType, uint8_t profileIndex);
+ZOVQMI_API int zovQMIWDSGetProfileSettingsResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSGetDefaultSettingsReq(uint8_t* buf, int bufsize, uint8_t profileType);
+ZOVQMI_API int zovQMIWDSGetDefaultSettingsResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSProfileReqAddProfileName(uint8_t* buf, int bufsize, uint16_t length, const uint8_t* data);
+ZOVQMI_API int zovQMIWDSProfileRespGetProfileName(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
+                                                  uint8_t* data);
+ZOVQMI_API int zovQMIWDSProfileReqAddPDPType(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPDPType(const uint8_t* msg, int len, uint16_t messageId, uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddPDPHeaderCompression(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPDPHeaderCompression(const uint8_t* msg, int len, uint16_t messageId,
+                                                           uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddPDPDataCompression(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPDPDataCompression(const uint8_t* msg, int len, uint16_t messageId,
+                                                         uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddAPNName(uint8_t* buf, int bufsize, uint16_t length, const uint8_t* data);
+ZOVQMI_API int zovQMIWDSProfileRespGetAPNName(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
+                                              uint8_t* data);
+ZOVQMI_API int zovQMIWDSProfileReqAddPrimaryDNSIPv4AddressPreference(uint8_t* buf, int bufsize, uint32_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPrimaryDNSIPv4AddressPreference(const uint8_t* msg, int len,
+                                                                      uint16_t messageId, uint32_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddSecondaryDNSIPv4AddressPreference(uint8_t* buf, int bufsize, uint32_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetSecondaryDNSIPv4AddressPreference(const uint8_t* msg, int len,
+                                                                        uint16_t messageId, uint32_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddUMTSRequestedQoS(uint8_t* buf, int bufsize, const uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileRespGetUMTSRequestedQoS(const uint8_t* msg, int len, uint16_t messageId,
+                                                       uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileReqAddUMTSMinimumQoS(uint8_t* buf, int bufsize, const uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileRespGetUMTSMinimumQoS(const uint8_t* msg, int len, uint16_t messageId,
+                                                     uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileReqAddGPRSRequestedQoS(uint8_t* buf, int bufsize, const uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileRespGetGPRSRequestedQoS(const uint8_t* msg, int len, uint16_t messageId,
+                                                       uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileReqAddGPRSMinimumQoS(uint8_t* buf, int bufsize, const uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileRespGetGPRSMinimumQoS(const uint8_t* msg, int len, uint16_t messageId,
+                                                     uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileReqAddUsername(uint8_t* buf, int bufsize, uint16_t length, const uint8_t* data);
+ZOVQMI_API int zovQMIWDSProfileRespGetUsername(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
+                                               uint8_t* data);
+ZOVQMI_API int zovQMIWDSProfileReqAddPassword(uint8_t* buf, int bufsize, uint16_t length, const uint8_t* data);
+ZOVQMI_API int zovQMIWDSProfileRespGetPassword(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
+                                               uint8_t* data);
+ZOVQMI_API int zovQMIWDSProfileReqAddAuthenticationPreference(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetAuthenticationPreference(const uint8_t* msg, int len, uint16_t messageId,
+                                                               uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddIPv4AddressPreference(uint8_t* buf, int bufsize, uint32_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetIPv4AddressPreference(const uint8_t* msg, int len, uint16_t messageId,
+                                                            uint32_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddPCSCFAddressUsingPCOFlag(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPCSCFAddressUsingPCOFlag(const uint8_t* msg, int len, uint16_t messageId,
+                                                               uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddPDPAccessControlFlag(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPDPAccessControlFlag(const uint8_t* msg, int len, uint16_t messageId,
+                                                           uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddPCSCFAddressUsingDHCPFlag(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPCSCFAddressUsingDHCPFlag(const uint8_t* msg, int len, uint16_t messageId,
+                                                                uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddIMCNFlag(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetIMCNFlag(const uint8_t* msg, int len, uint16_t messageId, uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddTFTFilterID1(uint8_t* buf, int bufsize, const uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileRespGetTFTFilterID1(const uint8_t* msg, int len, uint16_t messageId, uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileReqAddTFTFilterID2(uint8_t* buf, int bufsize, const uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileRespGetTFTFilterID2(const uint8_t* msg, int len, uint16_t messageId, uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileReqAddPDPContextNumber(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPDPContextNumber(const uint8_t* msg, int len, uint16_t messageId,
+                                                       uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddPDPContextSecondaryFlag(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPDPContextSecondaryFlag(const uint8_t* msg, int len, uint16_t messageId,
+                                                              uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddPDPContextPrimaryID(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetPDPContextPrimaryID(const uint8_t* msg, int len, uint16_t messageId,
+                                                          uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddPDPContextIPv6Address(uint8_t* buf, int bufsize, const uint8_t* address);
+ZOVQMI_API int zovQMIWDSProfileRespGetPDPContextIPv6Address(const uint8_t* msg, int len, uint16_t messageId,
+                                                            uint8_t* address);
+ZOVQMI_API int zovQMIWDSProfileReqAddPrimaryIPv6DNSAddress(uint8_t* buf, int bufsize, const uint8_t* address);
+ZOVQMI_API int zovQMIWDSProfileRespGetPrimaryIPv6DNSAddress(const uint8_t* msg, int len, uint16_t messageId,
+                                                            uint8_t* address);
+ZOVQMI_API int zovQMIWDSProfileReqAddSecondaryIPv6DNSAddress(uint8_t* buf, int bufsize, const uint8_t* address);
+ZOVQMI_API int zovQMIWDSProfileRespGetSecondaryIPv6DNSAddress(const uint8_t* msg, int len, uint16_t messageId,
+                                                              uint8_t* address);
+ZOVQMI_API int zovQMIWDSProfileReqAddIPv4AddressAlloc(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWDSProfileRespGetIPv4AddressAlloc(const uint8_t* msg, int len, uint16_t messageId,
+                                                       uint8_t* value);
+ZOVQMI_API int zovQMIWDSProfileReqAddLTERequestedQoS(uint8_t* buf, int bufsize, const uint8_t* record);
+ZOVQMI_API int zovQMIWDSProfileRespGetLTERequestedQoS(const uint8_t* msg, int len, uint16_t messageId,
+                                                      uint8_t* record);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsReqAddRequestedSettings(uint8_t* buf, int bufsize, uint32_t mask);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetProfileIdentifier(const uint8_t* msg, int len, uint8_t* profileType,
+                                                                   uint8_t* profileIndex);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetIPv4GatewayAddress(const uint8_t* msg, int len, uint32_t* address);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetIPv4SubnetMask(const uint8_t* msg, int len, uint32_t* mask);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetPCSCFAddressUsingPCOFlag(const uint8_t* msg, int len, uint8_t* flag);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetPCSCFIPv4ServerAddressList(const uint8_t* msg, int len,
+                                                                            uint8_t* count, uint32_t* list);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetPCSCFFQDNList(const uint8_t* msg, int len, uint8_t* count,
+                                                               WDSNameListEntry* list);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetIPv6Address(const uint8_t* msg, int len, uint8_t* address,
+                                                             uint8_t* prefixLength);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetIPv6GatewayAddress(const uint8_t* msg, int len, uint8_t* address,
+                                                                    uint8_t* prefixLength);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetPrimaryIPv6DNSAddress(const uint8_t* msg, int len, uint8_t* address);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetSecondaryIPv6DNSAddress(const uint8_t* msg, int len,
+                                                                         uint8_t* address);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetMTU(const uint8_t* msg, int len, uint32_t* mtu);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetDomainNameList(const uint8_t* msg, int len, uint8_t* count,
+                                                                WDSNameListEntry* list);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetIPfamily(const uint8_t* msg, int len, uint8_t* family);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetIMCNFlag(const uint8_t* msg, int len, uint8_t* flag);
+ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetTechnologyName(const uint8_t* msg, int len, uint16_t* name);
+ZOVQMI_API int zovQMIWDSSetMIPModeReq(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIWDSSetMIPModeResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSGetMIPModeReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGetMIPModeResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* mode);
+ZOVQMI_API int zovQMIWDSGetDormancyStatusReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGetDormancyStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status);
+ZOVQMI_API int zovQMIWDSGetCallDurationReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGetCallDurationResp(const uint8_t* msg, int len, QmiResult* result, uint64_t* duration);
+ZOVQMI_API int zovQMIWDSGetCallDurationRespGetLastCallDuration(const uint8_t* msg, int len, uint64_t* duration);
+ZOVQMI_API int zovQMIWDSGetCallDurationRespGetActiveDuration(const uint8_t* msg, int len, uint64_t* duration);
+ZOVQMI_API int zovQMIWDSGetCallDurationRespGetLastCallActiveDuration(const uint8_t* msg, int len, uint64_t* duration);
+ZOVQMI_API int zovQMIWDSGetCurrentDataBearerTechnologyReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWDSGetCurrentDataBearerTechnologyResp(const uint8_t* msg, int len, QmiResult* result,
+                                                           uint8_t* technology, uint32_t* first, uint32_t* second);
+ZOVQMI_API int zovQMIWDSGetDefaultProfileNumReq(uint8_t* buf, int bufsize, uint8_t first, uint8_t second);
+ZOVQMI_API int zovQMIWDSGetDefaultProfileNumResp(const uint8_t* msg, int len, QmiResult* result,
+                                                 uint8_t* profileNumber);
+ZOVQMI_API int zovQMIWDSSetDefaultProfileNumReq(uint8_t* buf, int bufsize, uint8_t first, uint8_t second,
+                                                uint8_t profileNumber);
+ZOVQMI_API int zovQMIWDSSetDefaultProfileNumResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWDSSetClientIPFamilyPrefReq(uint8_t* buf, int bufsize, uint8_t ipFamily);
+ZOVQMI_API int zovQMIWDSSetClientIPFamilyPrefResp(const uint8_t* msg, int len, QmiResult* result);
+
 /* ------------------------------------------------------------ end WDS -- */
 
 
@@ -340,27 +651,1247 @@ ZOVQMI_API int zovQMIDMSUIMGetStateResp(const uint8_t* msg, int len, QmiResult* 
 
 
 /* ---------------------------------------------------------------- NAS -- */
-/* (NAS declarations) */
+#pragma pack(push, 1)
+
+/* NAS: the serving system item 0x01 of GetServingSystem (response and
+ * indication): four state bytes, then a list of listCount bytes copied into
+ * the caller's buffer `list` when it is non-null. 5 + pointer bytes. */
+typedef struct NASServingSystem {
+    uint8_t state[4];
+    uint8_t listCount;
+    uint8_t* list;
+} NASServingSystem;
+
+/* NAS: one network, the element of every network list (scan results, current
+ * and home network, preferred and forbidden lists).  Each parser writes only
+ * its own fields and leaves the others as the caller set them:
+ *   firstCode, secondCode   all of them
+ *   thirdCode               preferred lists only
+ *   status                  scan only
+ *   descriptionLength       scan, current network, home network
+ * `description` is never written: when non-null it receives the description
+ * bytes.  Arrays are walked with this record's size as stride.
+ * 8 + pointer bytes. */
+typedef struct NASNetworkRecord {
+    uint16_t firstCode;
+    uint16_t secondCode;
+    uint16_t thirdCode;
+    uint8_t status;
+    uint8_t descriptionLength;
+    uint8_t* description;
+} NASNetworkRecord;
+
+/* NAS: one RF band entry, laid out as on the wire (5 bytes). */
+typedef struct NASRFBandRecord {
+    uint8_t first;
+    uint16_t second;
+    uint16_t third;
+} NASRFBandRecord;
+
+/* NAS: the manual network registration item of InitiateNetworkRegister (5 bytes). */
+typedef struct NASManualNetworkRegister {
+    uint16_t firstCode;
+    uint16_t secondCode;
+    uint8_t third;
+} NASManualNetworkRegister;
+
+#pragma pack(pop)
+
+/* Reset 0x0000, Abort 0x0001 */
+ZOVQMI_API int zovQMINASResetReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASResetResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMINASAbortReq(uint8_t* buf, int bufsize, uint16_t transactionId);
+ZOVQMI_API int zovQMINASAbortResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* SetEventReport 0x0002 and the EventReport indication */
+ZOVQMI_API int zovQMINASSetEventReportReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASSetEventReportReqAddSignalStrengthIndicator(uint8_t* buf, int bufsize, uint8_t report,
+                                                                    uint8_t count, const uint8_t* thresholds);
+ZOVQMI_API int zovQMINASSetEventReportReqAddRFBandInformation(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMINASSetEventReportReqAddRegistrationRejectReasons(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMINASSetEventReportReqAddRSSIIndicator(uint8_t* buf, int bufsize, uint8_t report, uint8_t delta);
+ZOVQMI_API int zovQMINASSetEventReportReqAddECIOIndicator(uint8_t* buf, int bufsize, uint8_t report, uint8_t delta);
+ZOVQMI_API int zovQMINASSetEventReportReqAddIOIndicator(uint8_t* buf, int bufsize, uint8_t report, uint8_t delta);
+ZOVQMI_API int zovQMINASSetEventReportReqAddSINRIndicator(uint8_t* buf, int bufsize, uint8_t report, uint8_t delta);
+ZOVQMI_API int zovQMINASSetEventReportReqAddErrorRateIndicator(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMINASSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMINASEventReportIND(const uint8_t* msg, int len);
+ZOVQMI_API int zovQMINASEventReportINDGetSignalStrength(const uint8_t* msg, int len, uint8_t* strength,
+                                                        uint8_t* radioInterface);
+ZOVQMI_API int zovQMINASEventReportINDGetRFBandInformationList(const uint8_t* msg, int len, uint8_t* count,
+                                                               NASRFBandRecord* list);
+ZOVQMI_API int zovQMINASEventReportINDGetRegistrationRejectReason(const uint8_t* msg, int len, uint8_t* domain,
+                                                                  uint16_t* cause);
+ZOVQMI_API int zovQMINASEventReportINDGetRSSI(const uint8_t* msg, int len, uint8_t* rssi, uint8_t* radioInterface);
+ZOVQMI_API int zovQMINASEventReportINDGetECIO(const uint8_t* msg, int len, uint8_t* ecio, uint8_t* radioInterface);
+ZOVQMI_API int zovQMINASEventReportINDGetIO(const uint8_t* msg, int len, uint32_t* io);
+ZOVQMI_API int zovQMINASEventReportINDGetSINR(const uint8_t* msg, int len, uint8_t* sinr);
+ZOVQMI_API int zovQMINASEventReportINDGetErrorRate(const uint8_t* msg, int len, uint16_t* errorRate,
+                                                   uint8_t* radioInterface);
+
+/* IndicationRegister 0x0003 */
+ZOVQMI_API int zovQMINASIndicationRegisterReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASIndicationRegisterReqAddSystemSelectionPreference(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMINASIndicationRegisterReqAddDDTMEvents(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMINASIndicationRegisterReqAddServingSystemEvents(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMINASIndicationRegisterResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetSignalStrength 0x0020 */
+ZOVQMI_API int zovQMINASGetSignalStrengthReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetSignalStrengthReqAddRequestMask(uint8_t* buf, int bufsize, uint16_t mask);
+ZOVQMI_API int zovQMINASGetSignalStrengthResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* strength,
+                                              uint8_t* radioInterface);
+ZOVQMI_API int zovQMINASGetSignalStrengthRespGetSignalStrengthList(const uint8_t* msg, int len, uint16_t* count,
+                                                                   uint8_t* first, uint8_t* second);
+ZOVQMI_API int zovQMINASGetSignalStrengthRespGetRSSIList(const uint8_t* msg, int len, uint16_t* count, uint8_t* first,
+                                                         uint8_t* second);
+ZOVQMI_API int zovQMINASGetSignalStrengthRespGetECIOList(const uint8_t* msg, int len, uint16_t* count, uint8_t* first,
+                                                         uint8_t* second);
+ZOVQMI_API int zovQMINASGetSignalStrengthRespGetIO(const uint8_t* msg, int len, uint32_t* io);
+ZOVQMI_API int zovQMINASGetSignalStrengthRespGetSINR(const uint8_t* msg, int len, uint8_t* sinr);
+ZOVQMI_API int zovQMINASGetSignalStrengthRespGetErrorRateList(const uint8_t* msg, int len, uint16_t* count,
+                                                              uint16_t* errorRates, uint8_t* radioInterfaces);
+
+/* PerformNetworkScan 0x0021 */
+ZOVQMI_API int zovQMINASPerformNetworkScanReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASPerformNetworkScanResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMINASPerformNetworkScanRespGet3GPPNetworkInformation(const uint8_t* msg, int len, uint16_t* count,
+                                                                        NASNetworkRecord* list);
+
+/* InitiateNetworkRegister 0x0022 */
+ZOVQMI_API int zovQMINASInitiateNetworkRegisterReq(uint8_t* buf, int bufsize, uint8_t action);
+ZOVQMI_API int zovQMINASInitiateNetworkRegisterReqAddManualNetworkRegisterInformation(
+    uint8_t* buf, int bufsize, const NASManualNetworkRegister* info);
+ZOVQMI_API int zovQMINASInitiateNetworkRegisterResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* InitiateAttach 0x0023 */
+ZOVQMI_API int zovQMINASInitiateAttachReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASInitiateAttachReqAddPSAttachAction(uint8_t* buf, int bufsize, uint8_t action);
+ZOVQMI_API int zovQMINASInitiateAttachResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetServingSystem 0x0024 and the ServingSystem indication */
+ZOVQMI_API int zovQMINASGetServingSystemReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetServingSystemResp(const uint8_t* msg, int len, QmiResult* result,
+                                             NASServingSystem* servingSystem);
+ZOVQMI_API int zovQMINASGetServingSystemRespGetRoamingIndicatorValue(const uint8_t* msg, int len, uint8_t* value);
+ZOVQMI_API int zovQMINASGetServingSystemRespGetDataServiceCapabilityList(const uint8_t* msg, int len, uint8_t* count,
+                                                                         uint8_t* list);
+ZOVQMI_API int zovQMINASGetServingSystemRespGetCurrentPLMN(const uint8_t* msg, int len, NASNetworkRecord* network);
+ZOVQMI_API int zovQMINASGetServingSystemRespGetCDMASystemID(const uint8_t* msg, int len, uint16_t* systemId,
+                                                            uint16_t* networkId);
+ZOVQMI_API int zovQMINASGetServingSystemRespGetCDMABaseStationInformation(const uint8_t* msg, int len,
+                                                                          uint16_t* baseId, uint32_t* latitude,
+                                                                          uint32_t* longitude);
+ZOVQMI_API int zovQMINASGetServingSystemRespGetRoamingIndicatorList(const uint8_t* msg, int len, uint8_t* count,
+                                                                    uint8_t* first, uint8_t* second);
+ZOVQMI_API int zovQMINASGetServingSystemRespGetDefaultRoamingIndicator(const uint8_t* msg, int len, uint8_t* value);
+ZOVQMI_API int zovQMINASGetServingSystemRespGet3GPP2TimeZone(const uint8_t* msg, int len, uint8_t* leapSeconds,
+                                                             uint8_t* localOffset, uint8_t* daylightSaving);
+ZOVQMI_API int zovQMINASGetServingSystemRespGetCDMAPRevInUse(const uint8_t* msg, int len, uint8_t* pRev);
+ZOVQMI_API int zovQMINASGetServingSystemIND(const uint8_t* msg, int len, NASServingSystem* servingSystem);
+
+/* GetHomeNetwork 0x0025 */
+ZOVQMI_API int zovQMINASGetHomeNetworkReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetHomeNetworkResp(const uint8_t* msg, int len, QmiResult* result, NASNetworkRecord* network);
+ZOVQMI_API int zovQMINASGetHomeNetworkRespGetHomeSystemID(const uint8_t* msg, int len, uint16_t* systemId,
+                                                          uint16_t* networkId);
+
+/* GetPreferredNetworks 0x0026, SetPreferredNetworks 0x0027 */
+ZOVQMI_API int zovQMINASGetPreferredNetworksReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetPreferredNetworksResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMINASGetPreferredNetworksRespGet3GPPPreferredNetworks(const uint8_t* msg, int len, uint16_t* count,
+                                                                         NASNetworkRecord* list);
+ZOVQMI_API int zovQMINASGetPreferredNetworksRespGetStatic3GPPPreferredNetworks(const uint8_t* msg, int len,
+                                                                               uint16_t* count,
+                                                                               NASNetworkRecord* list);
+ZOVQMI_API int zovQMINASSetPreferredNetworksReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASSetPreferredNetworksReqAdd3GPPPreferredNetworks(uint8_t* buf, int bufsize, uint32_t count,
+                                                                        const NASNetworkRecord* list);
+ZOVQMI_API int zovQMINASSetPreferredNetworksResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetForbiddenNetworks 0x0028, SetForbiddenNetworks 0x0029 */
+ZOVQMI_API int zovQMINASGetForbiddenNetworksReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetForbiddenNetworksResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMINASGetForbiddenNetworksRespGet3GPPForbiddenNetworks(const uint8_t* msg, int len, uint16_t* count,
+                                                                         NASNetworkRecord* list);
+ZOVQMI_API int zovQMINASSetForbiddenNetworksReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASSetForbiddenNetworksReqAdd3GPPForbiddenNetworks(uint8_t* buf, int bufsize, uint32_t count,
+                                                                        const NASNetworkRecord* list);
+ZOVQMI_API int zovQMINASSetForbiddenNetworksResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetACCOLC 0x002C, SetACCOLC 0x002D */
+ZOVQMI_API int zovQMINASGetACCOLCReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetACCOLCResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* accolc);
+ZOVQMI_API int zovQMINASSetACCOLCReq(uint8_t* buf, int bufsize, const uint8_t* code, uint8_t accolc);
+ZOVQMI_API int zovQMINASSetACCOLCResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetDeviceConfig 0x002F, SetDeviceConfig 0x0030 */
+ZOVQMI_API int zovQMINASGetDeviceConfigReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetDeviceConfigResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMINASGetDeviceConfigRespGetSlotCycleIndex(const uint8_t* msg, int len, uint8_t* index);
+ZOVQMI_API int zovQMINASGetDeviceConfigRespGetStationClassMark(const uint8_t* msg, int len, uint8_t* mark);
+ZOVQMI_API int zovQMINASGetDeviceConfigRespGetRegistrationParameters(const uint8_t* msg, int len, uint8_t* first,
+                                                                     uint8_t* second, uint8_t* third);
+ZOVQMI_API int zovQMINASGetDeviceConfigRespGetForceHDRRevision(const uint8_t* msg, int len, uint8_t* revision);
+ZOVQMI_API int zovQMINASGetDeviceConfigRespGetHDRSCPCustomConfig(const uint8_t* msg, int len, uint8_t* active,
+                                                                 uint32_t* first, uint32_t* second, uint32_t* third);
+ZOVQMI_API int zovQMINASGetDeviceConfigRespGetRoamPreference(const uint8_t* msg, int len, uint8_t* preference);
+ZOVQMI_API int zovQMINASSetDeviceConfigReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASSetDeviceConfigReqAddServiceProgrammingCode(uint8_t* buf, int bufsize, const uint8_t* code);
+ZOVQMI_API int zovQMINASSetDeviceConfigReqAddForceHDRRevision(uint8_t* buf, int bufsize, uint8_t revision);
+ZOVQMI_API int zovQMINASSetDeviceConfigReqAddHDRSCPCustomConfig(uint8_t* buf, int bufsize, uint8_t active,
+                                                                uint32_t first, uint32_t second, uint32_t third);
+ZOVQMI_API int zovQMINASSetDeviceConfigReqAddRoamPreference(uint8_t* buf, int bufsize, uint8_t preference);
+ZOVQMI_API int zovQMINASSetDeviceConfigResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetRFBandInfo 0x0031, GetANAAAStatus 0x0032 */
+ZOVQMI_API int zovQMINASGetRFBandInfoReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetRFBandInfoResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
+                                          NASRFBandRecord* list);
+ZOVQMI_API int zovQMINASGetANAAAStatusReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetANAAAStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status);
+
+/* SetSystemSelectionPreference 0x0033, GetSystemSelectionPreference 0x0034
+ * and the SystemSelectionPreference indication */
+ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceReqAddEmergencyMode(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceReqAddModePreference(uint8_t* buf, int bufsize,
+                                                                         uint16_t preference);
+ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceReqAddBandPreference(uint8_t* buf, int bufsize,
+                                                                         uint64_t preference);
+ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceReqAddCDMAPRLPreference(uint8_t* buf, int bufsize,
+                                                                            uint16_t preference);
+ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceReqAddRoamingPreference(uint8_t* buf, int bufsize,
+                                                                            uint16_t preference);
+ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceRespGetEmergencyMode(const uint8_t* msg, int len, uint8_t* mode);
+ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceRespGetModePreference(const uint8_t* msg, int len,
+                                                                          uint16_t* preference);
+ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceRespGetBandPreference(const uint8_t* msg, int len,
+                                                                          uint64_t* preference);
+ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceRespGetCDMAPRLPreference(const uint8_t* msg, int len,
+                                                                             uint16_t* preference);
+ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceRespGetRoamingPreference(const uint8_t* msg, int len,
+                                                                             uint16_t* preference);
+ZOVQMI_API int zovQMINASSystemSelectionPreferenceIND(const uint8_t* msg, int len);
+
+/* SetDDTMPreference (request written as 0x0033, response 0x0037) and the
+ * DDTM indication 0x0038 */
+ZOVQMI_API int zovQMINASSetDDTMPreferenceReq(uint8_t* buf, int bufsize, uint8_t first, uint16_t second, uint8_t third,
+                                             uint8_t count, const uint16_t* list);
+ZOVQMI_API int zovQMINASSetDDTMPreferenceResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMINASDDTMIND(const uint8_t* msg, int len, uint8_t* first, uint8_t* second, uint16_t* third,
+                                uint8_t* count, uint16_t* list);
 /* ------------------------------------------------------------ end NAS -- */
 
 
 /* ---------------------------------------------------------------- WMS -- */
-/* (WMS declarations) */
+/* Records of the messaging service. */
+#pragma pack(push, 1)
+
+/* A raw short message as it crosses the interface: a 10-byte head followed by
+ * the raw bytes.  Multi-byte fields are little-endian bytes on every host.
+ * Each function uses only some head fields: the event report's transfer-route
+ * item writes the route flag and reference, raw write reads the memory store,
+ * raw read writes the tag, and format and length travel with every raw
+ * message.  The caller sizes the record for `length` bytes of `data`. */
+typedef struct WMSRawMessage {
+    uint8_t routeFlag;
+    uint32_t routeReference;
+    uint8_t memoryStore;
+    uint8_t messageTag;
+    uint8_t messageFormat;
+    uint16_t length;
+    uint8_t data[];
+} WMSRawMessage;
+
+/* One broadcast configuration entry (9 bytes), shared by the 3GPP and 3GPP2
+ * functions: the 3GPP ones use the first word pair and the selection byte,
+ * the 3GPP2 ones the second pair and the selection byte. */
+typedef struct WMSBroadcastConfigEntry {
+    uint16_t first3GPP;
+    uint16_t second3GPP;
+    uint16_t first3GPP2;
+    uint16_t second3GPP2;
+    uint8_t selection;
+} WMSBroadcastConfigEntry;
+
+#pragma pack(pop)
+
+ZOVQMI_API int zovQMIWMSResetReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWMSResetResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSSetEventReportReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWMSSetEventReportReqAddNewMTMessageIndicator(uint8_t* buf, int bufsize, uint8_t indicator);
+ZOVQMI_API int zovQMIWMSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSEventReportIND(const uint8_t* msg, int len);
+ZOVQMI_API int zovQMIWMSEventReportINDGetMTMessage(const uint8_t* msg, int len, uint8_t* memoryStore,
+                                                   uint32_t* memoryIndex);
+ZOVQMI_API int zovQMIWMSEventReportINDGetTransferRouteMTMessage(const uint8_t* msg, int len, WMSRawMessage* message);
+ZOVQMI_API int zovQMIWMSEventReportINDGetMessageMode(const uint8_t* msg, int len, uint8_t* mode);
+ZOVQMI_API int zovQMIWMSRawSendReq(uint8_t* buf, int bufsize, const WMSRawMessage* message);
+ZOVQMI_API int zovQMIWMSRawSendReqAddForceOnDC(uint8_t* buf, int bufsize, uint8_t first, uint8_t second);
+ZOVQMI_API int zovQMIWMSRawSendReqAddFollowOnDC(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWMSRawSendReqAddLinkControl(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIWMSRawSendResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* messageId);
+ZOVQMI_API int zovQMIWMSRawSendRespGetCauseCode(const uint8_t* msg, int len, uint16_t* cause);
+ZOVQMI_API int zovQMIWMSRawSendRespGetErrorClass(const uint8_t* msg, int len, uint8_t* errorClass);
+ZOVQMI_API int zovQMIWMSRawSendRespGetGWCauseInformation(const uint8_t* msg, int len, uint16_t* cause, uint8_t* extra);
+ZOVQMI_API int zovQMIWMSRawWriteReq(uint8_t* buf, int bufsize, const WMSRawMessage* message);
+ZOVQMI_API int zovQMIWMSRawWriteResp(const uint8_t* msg, int len, QmiResult* result, uint32_t* memoryIndex);
+ZOVQMI_API int zovQMIWMSRawReadReq(uint8_t* buf, int bufsize, uint8_t memoryStore, uint32_t memoryIndex);
+ZOVQMI_API int zovQMIWMSRawReadReqAddMessageMode(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIWMSRawReadResp(const uint8_t* msg, int len, QmiResult* result, WMSRawMessage* message);
+ZOVQMI_API int zovQMIWMSModifyTagReq(uint8_t* buf, int bufsize, uint8_t memoryStore, uint32_t memoryIndex, uint8_t tag);
+ZOVQMI_API int zovQMIWMSModifyTagReqAddMessageMode(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIWMSModifyTagResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSDeleteReq(uint8_t* buf, int bufsize, uint8_t memoryStore);
+ZOVQMI_API int zovQMIWMSDeleteReqAddMemoryIndex(uint8_t* buf, int bufsize, uint32_t memoryIndex);
+ZOVQMI_API int zovQMIWMSDeleteReqAddMessageTag(uint8_t* buf, int bufsize, uint8_t tag);
+ZOVQMI_API int zovQMIWMSDeleteReqAddMessageMode(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIWMSDeleteResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSGetMessageProtocolReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWMSGetMessageProtocolResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* protocol);
+ZOVQMI_API int zovQMIWMSListMessagesReq(uint8_t* buf, int bufsize, uint8_t memoryStore);
+ZOVQMI_API int zovQMIWMSListMessagesReqAddRequestedTag(uint8_t* buf, int bufsize, uint8_t tag);
+ZOVQMI_API int zovQMIWMSListMessagesReqAddMessageMode(uint8_t* buf, int bufsize, uint8_t mode);
+/* The count is 32 bits wide; indexes and tags are optional and must hold *count entries. */
+ZOVQMI_API int zovQMIWMSListMessagesResp(const uint8_t* msg, int len, QmiResult* result, uint32_t* count,
+                                         uint32_t* indexes, uint8_t* tags);
+ZOVQMI_API int zovQMIWMSSendACKReq(uint8_t* buf, int bufsize, uint32_t reference, uint8_t value1, uint8_t value2);
+ZOVQMI_API int zovQMIWMSSendACKReqAdd3GPP2FailureInformation(uint8_t* buf, int bufsize, uint8_t first, uint8_t second);
+ZOVQMI_API int zovQMIWMSSendACKReqAdd3GPPFailureInformation(uint8_t* buf, int bufsize, uint8_t first, uint8_t second);
+ZOVQMI_API int zovQMIWMSSendACKResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSSendFromMemStoreReq(uint8_t* buf, int bufsize, uint8_t memoryStore, uint32_t memoryIndex,
+                                            uint8_t mode);
+ZOVQMI_API int zovQMIWMSSendFromMemStoreResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSSendFromMemStoreRespGetMessageID(const uint8_t* msg, int len, uint16_t* messageId);
+ZOVQMI_API int zovQMIWMSSendFromMemStoreRespGetCauseCode(const uint8_t* msg, int len, uint16_t* cause);
+ZOVQMI_API int zovQMIWMSSendFromMemStoreRespGetErrorClass(const uint8_t* msg, int len, uint16_t* errorClass);
+ZOVQMI_API int zovQMIWMSSendFromMemStoreRespGetGWCauseInformation(const uint8_t* msg, int len, uint16_t* cause,
+                                                                  uint8_t* extra);
+ZOVQMI_API int zovQMIWMSSetRoutesReq(uint8_t* buf, int bufsize, uint16_t count, const uint8_t* routes);
+ZOVQMI_API int zovQMIWMSSetRoutesReqAddTransferStatusReport(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMIWMSSetRoutesResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSGetRoutesReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWMSGetRoutesResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* count, uint8_t* routes);
+ZOVQMI_API int zovQMIWMSGetRoutesRespGetTransferStatusReport(const uint8_t* msg, int len, uint8_t* report);
+ZOVQMI_API int zovQMIWMSGetSMSCAddressReq(uint8_t* buf, int bufsize);
+/* type receives 3 bytes; address (optional) receives *length bytes. */
+ZOVQMI_API int zovQMIWMSGetSMSCAddressResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* type,
+                                           uint8_t* length, uint8_t* address);
+/* A null address with a non-zero length is refused (-1). */
+ZOVQMI_API int zovQMIWMSSetSMSCAddressReq(uint8_t* buf, int bufsize, uint16_t length, const void* address);
+ZOVQMI_API int zovQMIWMSSetSMSCAddressReqAddSMSCAddressType(uint8_t* buf, int bufsize, uint16_t length,
+                                                            const void* type);
+ZOVQMI_API int zovQMIWMSSetSMSCAddressResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSGetStoreMaxSizeReq(uint8_t* buf, int bufsize, uint8_t memoryStore);
+ZOVQMI_API int zovQMIWMSGetStoreMaxSizeReqAddMessageMode(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIWMSGetStoreMaxSizeResp(const uint8_t* msg, int len, QmiResult* result, uint32_t* maxSize);
+ZOVQMI_API int zovQMIWMSGetStoreMaxSizeRespGetMemoryAvailable(const uint8_t* msg, int len, uint32_t* available);
+ZOVQMI_API int zovQMIWMSSetRetryPeriodReq(uint8_t* buf, int bufsize, uint32_t period);
+ZOVQMI_API int zovQMIWMSSetRetryPeriodResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSSetRetryIntervalReq(uint8_t* buf, int bufsize, uint32_t interval);
+ZOVQMI_API int zovQMIWMSSetRetryIntervalResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSSetDCDisconnectTimerReq(uint8_t* buf, int bufsize, uint32_t timer);
+ZOVQMI_API int zovQMIWMSSetDCDisconnectTimerResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSSetMemoryStatusReq(uint8_t* buf, int bufsize, uint8_t status);
+ZOVQMI_API int zovQMIWMSSetMemoryStatusResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSSetBroadcastActivationReq(uint8_t* buf, int bufsize, uint8_t first, uint8_t second);
+ZOVQMI_API int zovQMIWMSSetBroadcastActivationResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSSetBroadcastConfigReq(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIWMSSetBroadcastConfigReqAdd3GPPBroadcastConfigurationInformation(uint8_t* buf, int bufsize,
+                                                                                      uint16_t count,
+                                                                                      const WMSBroadcastConfigEntry* entries);
+ZOVQMI_API int zovQMIWMSSetBroadcastConfigReqAdd3GPP2BroadcastConfigurationInformation(uint8_t* buf, int bufsize,
+                                                                                       uint16_t count,
+                                                                                       const WMSBroadcastConfigEntry* entries);
+ZOVQMI_API int zovQMIWMSSetBroadcastConfigResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSGetBroadcastConfigReq(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIWMSGetBroadcastConfigResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSGetBroadcastConfigRespGet3GPPBroadcastConfigurationInformation(const uint8_t* msg, int len,
+                                                                                       uint8_t* activation,
+                                                                                       uint16_t* count,
+                                                                                       WMSBroadcastConfigEntry* entries);
+ZOVQMI_API int zovQMIWMSGetBroadcastConfigRespGet3GPP2BroadcastConfigurationInformation(const uint8_t* msg, int len,
+                                                                                        uint8_t* activation,
+                                                                                        uint16_t* count,
+                                                                                        WMSBroadcastConfigEntry* entries);
+ZOVQMI_API int zovQMIWMSMemoryFullIND(const uint8_t* msg, int len, uint8_t* first, uint8_t* second);
+ZOVQMI_API int zovQMIWMSGetDomainPrefReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWMSGetDomainPrefResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* preference);
+ZOVQMI_API int zovQMIWMSSetDomainPrefReq(uint8_t* buf, int bufsize, uint8_t preference);
+ZOVQMI_API int zovQMIWMSSetDomainPrefResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIWMSGetMessageWaitingReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIWMSGetMessageWaitingResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
+                                              uint8_t* first, uint8_t* second, uint8_t* third);
+ZOVQMI_API int zovQMIWMSMessageWaitingIND(const uint8_t* msg, int len, uint8_t* count, uint8_t* first, uint8_t* second,
+                                          uint8_t* third);
+ZOVQMI_API int zovQMIWMSSetPrimaryClientReq(uint8_t* buf, int bufsize, uint8_t primary);
+ZOVQMI_API int zovQMIWMSSetPrimaryClientResp(const uint8_t* msg, int len, QmiResult* result);
 /* ------------------------------------------------------------ end WMS -- */
 
 
 /* ---------------------------------------------------------------- PDS -- */
-/* (PDS declarations) */
+
+#pragma pack(push, 1)
+
+/* One entry of the assistance-data request lists: its length byte (high
+ * byte always 0) and a caller buffer for the bytes (null: not copied).
+ * 6 bytes on 32-bit hosts. */
+typedef struct LengthPrefixedEntry {
+    uint16_t length;
+    uint8_t* data;
+} LengthPrefixedEntry;
+
+/* One satellite of the event report, as on the wire (18 bytes). */
+typedef struct SatelliteInformationEntry {
+    uint32_t validMask;
+    uint8_t system;
+    uint8_t prn;
+    uint8_t health;
+    uint8_t processStatus;
+    uint8_t ephemerisState;
+    uint8_t almanacState;
+    uint32_t elevation;
+    uint16_t azimuth;
+    uint16_t signalStrength;
+} SatelliteInformationEntry;
+
+/* A parsed position fix, as on the wire (105 bytes).  The 64-bit fields hold
+ * raw bits (latitude and longitude are IEEE doubles at the modem). */
+typedef struct ParsedPositionData {
+    uint32_t validMask;
+    uint16_t year;
+    uint8_t month;
+    uint8_t dayOfWeek;
+    uint8_t dayOfMonth;
+    uint8_t hour;
+    uint8_t minute;
+    uint8_t second;
+    uint16_t milliseconds;
+    uint8_t leapSeconds;
+    uint64_t utcTimestamp;
+    uint32_t timeUncertainty;
+    uint64_t latitude;
+    uint64_t longitude;
+    uint32_t altitudeFromEllipsoid;
+    uint32_t altitudeFromSeaLevel;
+    uint32_t horizontalSpeed;
+    uint32_t verticalSpeed;
+    uint32_t heading;
+    uint32_t horizontalUncertaintyCircular;
+    uint32_t horizontalUncertaintyMajor;
+    uint32_t horizontalUncertaintyMinor;
+    uint32_t horizontalUncertaintyAngle;
+    uint32_t verticalUncertainty;
+    uint32_t horizontalVelocityUncertainty;
+    uint32_t verticalVelocityUncertainty;
+    uint8_t horizontalConfidence;
+    uint32_t positionDOP;
+    uint32_t horizontalDOP;
+    uint32_t verticalDOP;
+    uint8_t positionSource;
+} ParsedPositionData;
+
+/* The GPS engine's state, as on the wire (98 bytes; 64-bit fields raw bits). */
+typedef struct GPSStateInformation {
+    uint8_t engineState;
+    uint32_t validMask;
+    uint64_t latitude;
+    uint64_t longitude;
+    uint32_t horizontalUncertainty;
+    uint32_t altitude;
+    uint32_t verticalUncertainty;
+    uint32_t timeOfWeek;
+    uint16_t gpsWeek;
+    uint32_t timeUncertainty;
+    uint8_t ionosphereValid;
+    uint32_t gpsEphemerisMask;
+    uint32_t gpsAlmanacMask;
+    uint32_t gpsHealthMask;
+    uint32_t gpsVisibleMask;
+    uint32_t glonassEphemerisMask;
+    uint32_t glonassAlmanacMask;
+    uint32_t glonassHealthMask;
+    uint32_t glonassVisibleMask;
+    uint32_t sbasEphemerisMask;
+    uint32_t sbasAlmanacMask;
+    uint32_t sbasHealthMask;
+    uint32_t sbasVisibleMask;
+    uint16_t xtraStartWeek;
+    uint16_t xtraStartMinutes;
+    uint16_t xtraValidHours;
+} GPSStateInformation;
+
+/* Network-initiated prompts.  On the wire every length byte is followed
+ * directly by that many bytes.  Inline blocks live in the record; pointer
+ * blocks are caller buffers of up to 255 bytes (null: not copied when read;
+ * refused when written with a non-zero length). */
+
+/* 21 bytes on 32-bit hosts; wire value 17 + dataLength bytes. */
+typedef struct NetworkInitiatedPromptVX {
+    uint32_t notificationType;
+    uint8_t positionMode;
+    uint8_t requesterIdEncoding;
+    uint32_t sessionId;
+    uint32_t timeout;
+    uint8_t positionQoSIncluded;
+    uint8_t positionQoS;
+    uint8_t dataLength;
+    uint8_t* data;
+} NetworkInitiatedPromptVX;
+
+/* 319 bytes on 32-bit hosts; wire value 56 + length1 + length2 + length3. */
+typedef struct NetworkInitiatedPromptSUPL {
+    uint32_t notificationType;
+    uint8_t validMask;
+    uint64_t sessionId;
+    uint8_t serverAddressType;
+    uint32_t serverIPv4Address;
+    uint32_t serverIPv4Port;
+    uint32_t requesterIdMask;
+    uint32_t clientNameMask;
+    uint8_t serverIPv6[16];
+    uint8_t length1;
+    uint8_t block1[255];
+    uint8_t hash;
+    uint8_t positionMethod;
+    uint8_t length2;
+    uint8_t* block2;
+    uint8_t clientNameEncoding;
+    uint8_t length3;
+    uint8_t* block3;
+    uint8_t qosHorizontalAccuracy;
+    uint8_t qosVerticalAccuracy;
+    uint8_t qosMaxAge;
+    uint8_t qosDelay;
+} NetworkInitiatedPromptSUPL;
+
+/* 282 bytes on 32-bit hosts; wire value 15 + length1 + ... + length4. */
+typedef struct NetworkInitiatedPromptUMTSCP {
+    uint32_t notificationType;
+    uint8_t invokeId;
+    uint8_t validMask;
+    uint8_t notificationTextEncoding;
+    uint8_t length1;
+    uint8_t* block1;
+    uint8_t length2;
+    uint8_t block2[255];
+    uint8_t locationType;
+    uint8_t externalAddressType;
+    uint8_t length3;
+    uint8_t* block3;
+    uint8_t requesterIdEncoding;
+    uint8_t length4;
+    uint8_t* block4;
+    uint8_t codewordEncoding;
+} NetworkInitiatedPromptUMTSCP;
+
+/* One WiFi access point for InjectWiFiPositionData, as on the wire (13 bytes). */
+typedef struct WiFiAccessPointEntry {
+    uint8_t macAddress[6];
+    uint32_t rssi;
+    uint16_t channel;
+    uint8_t flags;
+} WiFiAccessPointEntry;
+
+/* A file for the modem's file system (16 bytes on 32-bit hosts). */
+typedef struct EFSFileRecord {
+    uint8_t nameLength;
+    const uint8_t* name;
+    uint8_t fileOperation;
+    uint32_t dataLength;
+    uint8_t partNumber;
+    uint8_t totalParts;
+    const uint8_t* data;
+} EFSFileRecord;
+
+#pragma pack(pop)
+
+/* Reset 0x00 */
+ZOVQMI_API int zovQMIPDSResetReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSResetResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* SetEventReport 0x01: subscriptions */
+ZOVQMI_API int zovQMIPDSSetEventReportReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSSetEventReportReqAddPositionDataNMEA(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMIPDSSetEventReportReqAddParsedPositionData(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMIPDSSetEventReportReqAddExternalXTRADataRequest(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMIPDSSetEventReportReqAddExternalTimeInjectionRequest(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMIPDSSetEventReportReqAddExternalWiFiPositionRequest(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMIPDSSetEventReportReqAddSatelliteInformation(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMIPDSSetEventReportReqAddNetworkInitiatedPromptVX(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMIPDSSetEventReportReqAddNetworkInitiatedPromptSUPL(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMIPDSSetEventReportReqAddNetworkInitiatedPromptUMTSCP(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMIPDSSetEventReportReqAddPDSCommEvents(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMIPDSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* EventReport 0x01 (indication) */
+ZOVQMI_API int zovQMIPDSEventReportIND(const uint8_t* msg, int len);
+ZOVQMI_API int zovQMIPDSEventReportINDGetPositionDataNMEA(const uint8_t* msg, int len, uint16_t* length, void* data);
+ZOVQMI_API int zovQMIPDSEventReportINDGetPositionSessionStatus(const uint8_t* msg, int len, uint8_t* status);
+ZOVQMI_API int zovQMIPDSEventReportINDGetParsedPositionData(const uint8_t* msg, int len, ParsedPositionData* data);
+ZOVQMI_API int zovQMIPDSEventReportINDGetExternalXTRADatabaseRequest(const uint8_t* msg, int len,
+                                                                    uint16_t* maxFileSize, uint8_t* count,
+                                                                    LengthPrefixedEntry* entries);
+ZOVQMI_API int zovQMIPDSEventReportINDGetExternalTimeInjectionRequest(const uint8_t* msg, int len,
+                                                                     uint32_t* delayThreshold, uint8_t* count,
+                                                                     LengthPrefixedEntry* entries);
+ZOVQMI_API int zovQMIPDSEventReportINDGetExternalWiFiPositionRequest(const uint8_t* msg, int len, uint8_t* request,
+                                                                    uint16_t* interval);
+ZOVQMI_API int zovQMIPDSEventReportINDGetSatelliteInformation(const uint8_t* msg, int len, uint32_t* validMask,
+                                                             uint8_t* iono, uint8_t* count,
+                                                             SatelliteInformationEntry* entries);
+ZOVQMI_API int zovQMIPDSEventReportINDGetNetworkInitiatedPromptVX(const uint8_t* msg, int len,
+                                                                 NetworkInitiatedPromptVX* prompt);
+ZOVQMI_API int zovQMIPDSEventReportINDGetNetworkInitiatedPromptSUPL(const uint8_t* msg, int len,
+                                                                   NetworkInitiatedPromptSUPL* prompt);
+ZOVQMI_API int zovQMIPDSEventReportINDGetNetworkInitiatedPromptUMTSCP(const uint8_t* msg, int len,
+                                                                     NetworkInitiatedPromptUMTSCP* prompt);
+ZOVQMI_API int zovQMIPDSEventReportINDGetPDSCommEvents(const uint8_t* msg, int len, uint8_t* type, uint8_t* state);
+ZOVQMI_API int zovQMIPDSEventReportINDGetPositionSource(const uint8_t* msg, int len, uint32_t* source);
+
+/* GetGPSServiceState 0x20 and the GPSServiceState indication */
+ZOVQMI_API int zovQMIPDSGetGPSServiceStateReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSGetGPSServiceStateResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* enabled,
+                                              uint8_t* trackingState);
+ZOVQMI_API int zovQMIPDSGPSServiceStateIND(const uint8_t* msg, int len, uint8_t* enabled, uint8_t* trackingState);
+
+/* SetGPSServiceState 0x21 */
+ZOVQMI_API int zovQMIPDSSetGPSServiceStateReq(uint8_t* buf, int bufsize, uint8_t state);
+ZOVQMI_API int zovQMIPDSSetGPSServiceStateResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetDefaultTrackingSession 0x29 */
+ZOVQMI_API int zovQMIPDSGetDefaultTrackingSessionReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSGetDefaultTrackingSessionResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* mode,
+                                                     uint8_t* timeout, uint32_t* interval, uint32_t* accuracy);
+
+/* SetDefaultTrackingSession 0x2A */
+ZOVQMI_API int zovQMIPDSSetDefaultTrackingSessionReq(uint8_t* buf, int bufsize, uint8_t mode, uint8_t timeout,
+                                                    uint32_t interval, uint32_t accuracy);
+ZOVQMI_API int zovQMIPDSSetDefaultTrackingSessionResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetAutoTrackingState 0x30 */
+ZOVQMI_API int zovQMIPDSGetAutoTrackingStateReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSGetAutoTrackingStateResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* state);
+
+/* SetAutoTrackingState 0x31 */
+ZOVQMI_API int zovQMIPDSSetAutoTrackingStateReq(uint8_t* buf, int bufsize, uint8_t state);
+ZOVQMI_API int zovQMIPDSSetAutoTrackingStateResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* DetermineSinglePosition 0x35 */
+ZOVQMI_API int zovQMIPDSDetermineSinglePositionReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSDetermineSinglePositionReqAddSinglePositionMode(uint8_t* buf, int bufsize, uint8_t mode);
+ZOVQMI_API int zovQMIPDSDetermineSinglePositionReqAddSinglePositionTimeout(uint8_t* buf, int bufsize, uint8_t timeout);
+ZOVQMI_API int zovQMIPDSDetermineSinglePositionReqAddSinglePositionAccuracy(uint8_t* buf, int bufsize,
+                                                                           uint32_t accuracy);
+ZOVQMI_API int zovQMIPDSDetermineSinglePositionResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* SendNIResponse 0x3C */
+ZOVQMI_API int zovQMIPDSSendNIResponseReq(uint8_t* buf, int bufsize, uint8_t action);
+ZOVQMI_API int zovQMIPDSSendNIResponseReqAddNetworkInitiatedPromptVX(uint8_t* buf, int bufsize,
+                                                                    const NetworkInitiatedPromptVX* prompt);
+ZOVQMI_API int zovQMIPDSSendNIResponseReqAddNetworkInitiatedPromptSUPL(uint8_t* buf, int bufsize,
+                                                                      const NetworkInitiatedPromptSUPL* prompt);
+ZOVQMI_API int zovQMIPDSSendNIResponseReqAddNetworkInitiatedPromptUMTSCP(uint8_t* buf, int bufsize,
+                                                                        const NetworkInitiatedPromptUMTSCP* prompt);
+ZOVQMI_API int zovQMIPDSSendNIResponseResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* CancelSinglePosition 0x43 */
+ZOVQMI_API int zovQMIPDSCancelSinglePositionReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSCancelSinglePositionResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetGPSStateInfo 0x44 */
+ZOVQMI_API int zovQMIPDSGetGPSStateInfoReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSGetGPSStateInfoResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPDSGetGPSStateInfoRespGetGPSStateInformation(const uint8_t* msg, int len,
+                                                                 GPSStateInformation* info);
+
+/* GetNMEAConfig 0x26 */
+ZOVQMI_API int zovQMIPDSGetNMEAConfigReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSGetNMEAConfigResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* sentenceMask,
+                                         uint8_t* port, uint8_t* reporting);
+
+/* SetNMEAConfig 0x27 */
+ZOVQMI_API int zovQMIPDSSetNMEAConfigReq(uint8_t* buf, int bufsize, uint8_t sentenceMask, uint8_t port,
+                                        uint8_t reporting);
+ZOVQMI_API int zovQMIPDSSetNMEAConfigResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* InjectRelativeTimeRef 0x28 */
+ZOVQMI_API int zovQMIPDSInjectRelativeTimeRefReq(uint8_t* buf, int bufsize, uint64_t systemTime,
+                                                uint16_t discontinuities);
+ZOVQMI_API int zovQMIPDSInjectRelativeTimeRefResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetXTRAParameters 0x2B */
+ZOVQMI_API int zovQMIPDSGetXTRAParametersReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSGetXTRAParametersResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseAutodownload(const uint8_t* msg, int len,
+                                                                        uint8_t* enabled, uint16_t* interval);
+ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseDownloadMediumConfiguration(const uint8_t* msg, int len,
+                                                                                       uint8_t* length, void* data);
+ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseDownloadNetworkConfiguration(const uint8_t* msg, int len,
+                                                                                        uint8_t* network);
+ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseValidity(const uint8_t* msg, int len, uint16_t* startWeek,
+                                                                    uint16_t* startMinutes, uint16_t* validHours);
+ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetEmbeddedXTRAClientState(const uint8_t* msg, int len,
+                                                                       uint8_t* dataClient, uint8_t* timeClient);
+
+/* SetXTRAParameters 0x2C */
+ZOVQMI_API int zovQMIPDSSetXTRAParametersReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSSetXTRAParametersReqAddXTRADatabaseAutodownload(uint8_t* buf, int bufsize, uint8_t enabled,
+                                                                       uint16_t interval);
+ZOVQMI_API int zovQMIPDSSetXTRAParametersReqAddXTRADatabaseDownloadConfiguration(uint8_t* buf, int bufsize,
+                                                                                uint8_t length, const void* data);
+ZOVQMI_API int zovQMIPDSSetXTRAParametersReqAddXTRADatabaseNetworkConfiguration(uint8_t* buf, int bufsize,
+                                                                               uint8_t network);
+ZOVQMI_API int zovQMIPDSSetXTRAParametersReqAddEmbeddedXTRAClientState(uint8_t* buf, int bufsize, uint8_t dataClient,
+                                                                      uint8_t timeClient);
+ZOVQMI_API int zovQMIPDSSetXTRAParametersResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* ForceXTRADownload 0x2D */
+ZOVQMI_API int zovQMIPDSForceXTRADownloadReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSForceXTRADownloadResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetAGPSConfig 0x2E */
+ZOVQMI_API int zovQMIPDSGetAGPSConfigReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSGetAGPSConfigResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPDSGetAGPSConfigRespGetAGPSLocationServerIPv4(const uint8_t* msg, int len, uint32_t* address,
+                                                                  uint32_t* port);
+ZOVQMI_API int zovQMIPDSGetAGPSConfigRespGetAGPSLocationServerURL(const uint8_t* msg, int len, uint8_t* length,
+                                                                 void* data);
+
+/* SetAGPSConfig 0x2F */
+ZOVQMI_API int zovQMIPDSSetAGPSConfigReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSSetAGPSConfigReqAddAGPSLocationServer(uint8_t* buf, int bufsize, uint32_t address,
+                                                             uint32_t port);
+ZOVQMI_API int zovQMIPDSSetAGPSConfigReqAddAGPSLocationServerURL(uint8_t* buf, int bufsize, uint8_t length,
+                                                                const void* data);
+ZOVQMI_API int zovQMIPDSSetAGPSConfigResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetCOMPortConfig 0x32 */
+ZOVQMI_API int zovQMIPDSGetCOMPortConfigReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSGetCOMPortConfigResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* port);
+
+/* SetCOMPortConfig 0x33 */
+ZOVQMI_API int zovQMIPDSSetCOMPortConfigReq(uint8_t* buf, int bufsize, uint8_t port);
+ZOVQMI_API int zovQMIPDSSetCOMPortConfigResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* ResetGPSServiceData 0x34 */
+ZOVQMI_API int zovQMIPDSResetGPSServiceDataReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSResetGPSServiceDataReqAddGPSServiceData(uint8_t* buf, int bufsize, uint32_t mask);
+ZOVQMI_API int zovQMIPDSResetGPSServiceDataReqAddGPSServiceCellDBData(uint8_t* buf, int bufsize, uint32_t mask);
+ZOVQMI_API int zovQMIPDSResetGPSServiceDataResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetGPSServiceVersion 0x36 */
+ZOVQMI_API int zovQMIPDSGetGPSServiceVersionReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSGetGPSServiceVersionResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* major,
+                                                uint8_t* minor);
+
+/* InjectXTRAData 0x37 */
+ZOVQMI_API int zovQMIPDSInjectXTRADataReq(uint8_t* buf, int bufsize, uint8_t sequence, uint16_t totalLength,
+                                         uint16_t length, const void* data);
+ZOVQMI_API int zovQMIPDSInjectXTRADataResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* InjectPositionData 0x38 (64-bit values are raw bits) */
+ZOVQMI_API int zovQMIPDSInjectPositionDataReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddTimestamp(uint8_t* buf, int bufsize, uint64_t timestamp);
+ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddLatitude(uint8_t* buf, int bufsize, uint64_t latitude);
+ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddLongitude(uint8_t* buf, int bufsize, uint64_t longitude);
+ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddAltitudeFromEllipsoid(uint8_t* buf, int bufsize, uint32_t altitude);
+ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddAltitudeFromSeaLevel(uint8_t* buf, int bufsize, uint32_t altitude);
+ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddHorizontalUncertaintyCircular(uint8_t* buf, int bufsize,
+                                                                             uint32_t uncertainty);
+ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddVerticalUncertainty(uint8_t* buf, int bufsize, uint32_t uncertainty);
+ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddHorizontalConfidence(uint8_t* buf, int bufsize, uint8_t confidence);
+ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddVerticalConfidence(uint8_t* buf, int bufsize, uint8_t confidence);
+ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddPositionSource(uint8_t* buf, int bufsize, uint8_t source);
+ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddTimeType(uint8_t* buf, int bufsize, uint8_t timeType);
+ZOVQMI_API int zovQMIPDSInjectPositionDataResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* InjectWiFiPositionData 0x39 */
+ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataReqAddWiFiPositionTime(uint8_t* buf, int bufsize, uint32_t time);
+ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataReqAddWiFiPosition(uint8_t* buf, int bufsize, uint32_t latitude,
+                                                                uint32_t longitude, uint16_t uncertainty,
+                                                                uint8_t confidence, uint8_t reliability);
+ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataReqAddWiFiPositionAPInformation(uint8_t* buf, int bufsize,
+                                                                             uint8_t count,
+                                                                             const WiFiAccessPointEntry* entries);
+ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetSBASConfig 0x3A */
+ZOVQMI_API int zovQMIPDSGetSBASConfigReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSGetSBASConfigResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPDSGetSBASConfigRespGetSBASConfiguration(const uint8_t* msg, int len, uint8_t* config);
+
+/* SetSBASConfig 0x3B */
+ZOVQMI_API int zovQMIPDSSetSBASConfigReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSSetSBASConfigReqAddSBASConfiguration(uint8_t* buf, int bufsize, uint8_t config);
+ZOVQMI_API int zovQMIPDSSetSBASConfigResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* InjectAbsTimeRef 0x3D (its time item is optional yet of type 0x01) */
+ZOVQMI_API int zovQMIPDSInjectAbsTimeRefReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSInjectAbsTimeRefReqAddAbsoluteTimeInjection(uint8_t* buf, int bufsize, uint64_t time,
+                                                                   uint32_t uncertainty, uint8_t timeBase,
+                                                                   uint8_t forceAccept);
+ZOVQMI_API int zovQMIPDSInjectAbsTimeRefResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* InjectEFSData 0x3E */
+ZOVQMI_API int zovQMIPDSInjectEFSDataReq(uint8_t* buf, int bufsize, const EFSFileRecord* file);
+ZOVQMI_API int zovQMIPDSInjectEFSDataResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetDPOConfig 0x3F */
+ZOVQMI_API int zovQMIPDSGetDPOConfigReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSGetDPOConfigResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPDSGetDPOConfigRespGetDPOConfiguration(const uint8_t* msg, int len, uint8_t* config);
+
+/* SetDPOConfig 0x40 */
+ZOVQMI_API int zovQMIPDSSetDPOConfigReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSSetDPOConfigReqAddDPOConfiguration(uint8_t* buf, int bufsize, uint8_t config);
+ZOVQMI_API int zovQMIPDSSetDPOConfigResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* GetODPConfig 0x41 */
+ZOVQMI_API int zovQMIPDSGetODPConfigReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSGetODPConfigResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPDSGetODPConfigRespGetODPConfiguration(const uint8_t* msg, int len, uint8_t* config);
+
+/* SetODPConfig 0x42 */
+ZOVQMI_API int zovQMIPDSSetODPConfigReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPDSSetODPConfigReqAddODPConfiguration(uint8_t* buf, int bufsize, uint8_t config);
+ZOVQMI_API int zovQMIPDSSetODPConfigResp(const uint8_t* msg, int len, QmiResult* result);
+
 /* ------------------------------------------------------------ end PDS -- */
 
 
 /* ---------------------------------------------------------------- PBM -- */
-/* (PBM declarations) */
+
+#pragma pack(push, 1)
+
+/* PBM: a text slot: length, then up to 242 bytes of text.  243 bytes. */
+typedef struct PBMTextSlot {
+    uint8_t length;
+    uint8_t text[242];
+} PBMTextSlot;
+
+/* PBM: a number slot: two attributes, length, up to 40 number bytes and a
+ * trailing attribute (carried only for additional numbers).  44 bytes. */
+typedef struct PBMNumberSlot {
+    uint8_t attribute1;
+    uint8_t attribute2;
+    uint8_t length;
+    uint8_t number[40];
+    uint8_t trailingAttribute;
+} PBMNumberSlot;
+
+/* Up to 10 phonebook records as delivered by the record-read indication and
+ * its optional arrays, and as read by the write-record request.  Record i is
+ * the i-th record of the indication.  Several parsers fill the same set: each
+ * writes its own arrays and shares the count and record-id slots.  Two-byte
+ * fields are little-endian bytes.  9216 bytes. */
+typedef struct PBMRecordSet {
+    uint8_t leadingWord[2];           /*    0 */
+    uint8_t selectorByte;             /*    2 */
+    uint8_t selectorWord[2];          /*    3 */
+    uint8_t recordCount;              /*    5 */
+    uint8_t recordId[10][2];          /*    6 */
+    uint8_t numberCount[10];          /*   26 */
+    PBMNumberSlot numbers[10][4];     /*   36; slot 0 is the primary number */
+    PBMTextSlot name[10];             /* 1796 */
+    uint8_t groupIdCount[10];         /* 4226 */
+    uint8_t groupIds[10][10];         /* 4236 */
+    uint8_t emailCount[10];           /* 4336 */
+    PBMTextSlot emails[10][2];        /* 4346 */
+    uint8_t hidden[10];               /* 9206 */
+} PBMRecordSet;
+
+/* The capabilities of up to 6 phonebooks (get all PB capabilities).  Each
+ * array getter rewrites the count and the key bytes with its own values.
+ * Basic-capability entries: u16, u16, u16 (little-endian bytes), u8, u8.
+ * 451 bytes. */
+typedef struct PBMAllCapabilities {
+    uint8_t count;                    /*   0 */
+    uint8_t key[6];                   /*   1 */
+    uint8_t basicCount[6];            /*   7 */
+    uint8_t basic[6][8][8];           /*  13 */
+    uint8_t group[6][2];              /* 397 */
+    uint8_t additionalNumber[6][3];   /* 409 */
+    uint8_t email[6][2];              /* 427 */
+    uint8_t secondName[6];            /* 439 */
+    uint8_t hiddenRecords[6];         /* 445 */
+} PBMAllCapabilities;
+
+/* One emergency number: attribute (set lists only), length, up to 6 bytes. */
+typedef struct PBMEmergencyNumber {
+    uint8_t attribute;
+    uint8_t length;
+    uint8_t number[6];
+} PBMEmergencyNumber;
+
+/* Up to 6 sets of up to 256 emergency numbers (card or network lists).
+ * The reserved bytes are never written.  12745 bytes. */
+typedef struct PBMEmergencyNumberSets {
+    uint8_t count;                            /*   0 */
+    uint8_t key[6];                           /*   1 */
+    uint8_t reserved[444];                    /*   7 */
+    uint8_t numberCount[6];                   /* 451 */
+    PBMEmergencyNumber numbers[6][256];       /* 457 */
+} PBMEmergencyNumberSets;
+
+/* Up to 6 sets of up to 40 phonebook groups.  58573 bytes. */
+typedef struct PBMGroupsData {
+    uint8_t count;                    /*   0 */
+    uint8_t key[6];                   /*   1 */
+    uint8_t groupCount[6];            /*   7 */
+    uint8_t groupId[6][40];           /*  13 */
+    PBMTextSlot name[6][40];          /* 253 */
+} PBMGroupsData;
+
+#pragma pack(pop)
+
+/* Indication register 0x0001 */
+ZOVQMI_API int zovQMIPBMIndicationRegisterReq(uint8_t* buf, int bufsize, uint32_t mask);
+ZOVQMI_API int zovQMIPBMIndicationRegisterResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMIndicationRegisterRespGetEventRegistrationMask(const uint8_t* msg, int len, uint32_t* mask);
+
+/* Get PB capabilities 0x0002 */
+ZOVQMI_API int zovQMIPBMGetPBCapabilitiesReq(uint8_t* buf, int bufsize, uint8_t selectorByte, uint16_t selectorWord);
+ZOVQMI_API int zovQMIPBMGetPBCapabilitiesResp(const uint8_t* msg, int len, QmiResult* result);
+/* basic: 8 bytes, three u16 and two u8 as little-endian bytes. */
+ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetCapabilityBasicInformation(const uint8_t* msg, int len,
+                                                                          uint8_t* first, uint8_t* basic);
+ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetGroupCapability(const uint8_t* msg, int len, uint8_t* capability);
+ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetAdditionalNumberCapability(const uint8_t* msg, int len,
+                                                                          uint8_t* capability);
+ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetEmailCapability(const uint8_t* msg, int len, uint8_t* capability);
+ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetSecondNameCapability(const uint8_t* msg, int len,
+                                                                    uint8_t* capability);
+ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetHiddenRecordsCapability(const uint8_t* msg, int len,
+                                                                       uint8_t* capability);
+
+/* Get all PB capabilities 0x0003 */
+ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetCapabilityBasicInformationArray(const uint8_t* msg, int len,
+                                                                                  PBMAllCapabilities* caps);
+ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetGroupCapabilityArray(const uint8_t* msg, int len,
+                                                                       PBMAllCapabilities* caps);
+ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetAdditionalNumberCapabilityArray(const uint8_t* msg, int len,
+                                                                                  PBMAllCapabilities* caps);
+ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetEmailCapabilityArray(const uint8_t* msg, int len,
+                                                                       PBMAllCapabilities* caps);
+ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetSecondNameCapabilityArray(const uint8_t* msg, int len,
+                                                                            PBMAllCapabilities* caps);
+ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetHiddenRecordsCapabilityArray(const uint8_t* msg, int len,
+                                                                               PBMAllCapabilities* caps);
+
+/* Read records 0x0004, and the record-read indication 0x0004 */
+ZOVQMI_API int zovQMIPBMReadRecordsReq(uint8_t* buf, int bufsize, uint8_t selectorByte, uint16_t selectorWord,
+                                       uint16_t startId, uint16_t endId);
+ZOVQMI_API int zovQMIPBMReadRecordsResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMReadRecordsRespGetNumberOfRecords(const uint8_t* msg, int len, uint16_t* count);
+ZOVQMI_API int zovQMIPBMRecordReadIND(const uint8_t* msg, int len, PBMRecordSet* set);
+ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofSecondNameInformation(const uint8_t* msg, int len, PBMRecordSet* set);
+ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofAdditionalNumberInformation(const uint8_t* msg, int len,
+                                                                          PBMRecordSet* set);
+ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofGroupIDInformation(const uint8_t* msg, int len, PBMRecordSet* set);
+ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofEmailInformation(const uint8_t* msg, int len, PBMRecordSet* set);
+ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofHiddenInformation(const uint8_t* msg, int len, PBMRecordSet* set);
+
+/* Write record 0x0005: the record is record 0 of the set.  textSlot(s):
+ * 243-byte text slots; numberSlots: 44-byte number slots. */
+ZOVQMI_API int zovQMIPBMWriteRecordReq(uint8_t* buf, int bufsize, const PBMRecordSet* set);
+ZOVQMI_API int zovQMIPBMWriteRecordReqAddSecondNameInformation(uint8_t* buf, int bufsize, const uint8_t* textSlot);
+ZOVQMI_API int zovQMIPBMWriteRecordReqAddAdditionalNumberInformation(uint8_t* buf, int bufsize, uint8_t count,
+                                                                    const uint8_t* numberSlots);
+ZOVQMI_API int zovQMIPBMWriteRecordReqAddGroupIDInformation(uint8_t* buf, int bufsize, uint8_t count,
+                                                           const uint8_t* ids);
+ZOVQMI_API int zovQMIPBMWriteRecordReqAddEmailInformation(uint8_t* buf, int bufsize, uint8_t count,
+                                                         const uint8_t* textSlots);
+ZOVQMI_API int zovQMIPBMWriteRecordReqAddHiddenInformation(uint8_t* buf, int bufsize, uint8_t hidden);
+ZOVQMI_API int zovQMIPBMWriteRecordResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMWriteRecordRespGetRecordInfo(const uint8_t* msg, int len, uint16_t* recordInfo);
+
+/* Delete record 0x0006 */
+ZOVQMI_API int zovQMIPBMDeleteRecordReq(uint8_t* buf, int bufsize, uint8_t selectorByte, uint16_t selectorWord,
+                                        uint16_t recordId);
+ZOVQMI_API int zovQMIPBMDeleteRecordResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMDeleteRecordRespGetRecordID(const uint8_t* msg, int len, uint16_t* recordId);
+
+/* Delete all PB records 0x0007 */
+ZOVQMI_API int zovQMIPBMDeleteAllPBRecordsReq(uint8_t* buf, int bufsize, uint8_t selectorByte,
+                                              uint16_t selectorWord);
+ZOVQMI_API int zovQMIPBMDeleteAllPBRecordsResp(const uint8_t* msg, int len, QmiResult* result);
+
+/* Search records 0x0008 */
+ZOVQMI_API int zovQMIPBMSearchRecordsReq(uint8_t* buf, int bufsize, uint8_t selectorByte, uint16_t selectorWord);
+ZOVQMI_API int zovQMIPBMSearchRecordsReqAddNumberInformation(uint8_t* buf, int bufsize, uint8_t length,
+                                                            const void* bytes);
+ZOVQMI_API int zovQMIPBMSearchRecordsReqAddNameInformation(uint8_t* buf, int bufsize, uint8_t length,
+                                                          const void* bytes);
+ZOVQMI_API int zovQMIPBMSearchRecordsResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMSearchRecordsRespGetRecordIDsList(const uint8_t* msg, int len, uint16_t* count,
+                                                         uint16_t* ids);
+
+/* Record update indication 0x0009 */
+ZOVQMI_API int zovQMIPBMRecordUpdateIND(const uint8_t* msg, int len, uint8_t* first, uint16_t* second,
+                                        uint8_t* third, uint16_t* fourth);
+
+/* Refresh indication 0x000A */
+ZOVQMI_API int zovQMIPBMRefreshIND(const uint8_t* msg, int len, uint8_t* first, uint16_t* second, uint8_t* third);
+
+/* PB ready indication 0x000B */
+ZOVQMI_API int zovQMIPBMPBReadyIND(const uint8_t* msg, int len, uint8_t* selectorByte, uint16_t* selectorWord);
+
+/* Emergency list indication 0x000C */
+ZOVQMI_API int zovQMIPBMEmergencyListIND(const uint8_t* msg, int len, uint8_t* count, PBMEmergencyNumber* numbers);
+ZOVQMI_API int zovQMIPBMEmergencyListINDGetNVEmergencyNumbers(const uint8_t* msg, int len, uint8_t* count,
+                                                             PBMEmergencyNumber* numbers);
+ZOVQMI_API int zovQMIPBMEmergencyListINDGetCardEmergencyNumbers(const uint8_t* msg, int len,
+                                                               PBMEmergencyNumberSets* sets);
+ZOVQMI_API int zovQMIPBMEmergencyListINDGetNetworkEmergencyNumbers(const uint8_t* msg, int len,
+                                                                  PBMEmergencyNumberSets* sets);
+
+/* All PB init done indication 0x000D */
+ZOVQMI_API int zovQMIPBMAllPBInitDoneIND(const uint8_t* msg, int len, uint8_t* count, uint8_t* keys,
+                                         uint16_t* words);
+
+/* Get emergency list 0x000E */
+ZOVQMI_API int zovQMIPBMGetEmergencyListReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPBMGetEmergencyListResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMGetEmergencyListRespGetHardCodedEmergencyNumbers(const uint8_t* msg, int len, uint8_t* count,
+                                                                        PBMEmergencyNumber* numbers);
+ZOVQMI_API int zovQMIPBMGetEmergencyListRespGetNVEmergencyNumbers(const uint8_t* msg, int len, uint8_t* count,
+                                                                 PBMEmergencyNumber* numbers);
+ZOVQMI_API int zovQMIPBMGetEmergencyListRespGetCardEmergencyNumbers(const uint8_t* msg, int len,
+                                                                   PBMEmergencyNumberSets* sets);
+ZOVQMI_API int zovQMIPBMGetEmergencyListRespGetNetworkEmergencyNumbers(const uint8_t* msg, int len,
+                                                                      PBMEmergencyNumberSets* sets);
+
+/* Get all groups 0x000F */
+ZOVQMI_API int zovQMIPBMGetAllGroupsReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIPBMGetAllGroupsResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMGetAllGroupsRespGetGroupsData(const uint8_t* msg, int len, PBMGroupsData* groups);
+
+/* Set group info 0x0010 (textSlot: a 243-byte text slot) */
+ZOVQMI_API int zovQMIPBMSetGroupInfoReq(uint8_t* buf, int bufsize, uint8_t first, uint8_t second, uint8_t third,
+                                        const uint8_t* textSlot);
+ZOVQMI_API int zovQMIPBMSetGroupInfoResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMSetGroupInfoRespGetGroupIdentifier(const uint8_t* msg, int len, uint8_t* first,
+                                                          uint8_t* second);
+
+/* Get PB state 0x0011 */
+ZOVQMI_API int zovQMIPBMGetPBStateReq(uint8_t* buf, int bufsize, uint8_t selectorByte, uint16_t selectorWord);
+ZOVQMI_API int zovQMIPBMGetPBStateResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMGetPBStateRespGetPhonebookState(const uint8_t* msg, int len, uint8_t* first,
+                                                       uint16_t* second, uint8_t* third);
+
+/* Read all hidden records 0x0012 */
+ZOVQMI_API int zovQMIPBMReadAllHiddenRecordsReq(uint8_t* buf, int bufsize, uint8_t value);
+ZOVQMI_API int zovQMIPBMReadAllHiddenRecordsResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIPBMReadAllHiddenRecordsRespGetNumberofRecords(const uint8_t* msg, int len, uint16_t* count);
+
+/* Hidden record status indication 0x0013 */
+ZOVQMI_API int zovQMIPBMHiddenRecordStatusIND(const uint8_t* msg, int len, uint8_t* first, uint8_t* second);
+
 /* ------------------------------------------------------------ end PBM -- */
 
 
 /* ---------------------------------------------------------------- QOS -- */
-/* (QOS declarations) */
+
+/* QOS: one traffic flow of a QoS spec.  Natural alignment (84 bytes); arrays
+ * of it are stepped by its size.  Fields are native values.  `type` is the
+ * type of the item that wraps the flow in its container (0x11 or 0x12);
+ * `index` is set only when reading a QoS-spec error list.  Every parameter
+ * item has a presence byte (nonzero: present) and its value fields, named
+ * after the item's type. */
+typedef struct FlowSpecification {
+    uint8_t type;
+    uint8_t index;
+    uint8_t present10;
+    uint8_t value10;
+    uint8_t present1B;
+    uint16_t value1B;
+    uint8_t present11;
+    uint8_t value11;
+    uint8_t present12;
+    uint32_t value12First;
+    uint32_t value12Second;
+    uint8_t present13;
+    uint32_t value13First;
+    uint32_t value13Second;
+    uint32_t value13Third;
+    uint8_t present14;
+    uint32_t value14;
+    uint8_t present15;
+    uint32_t value15;
+    uint8_t present16;
+    uint16_t value16First;
+    uint16_t value16Second;
+    uint8_t present17;
+    uint32_t value17;
+    uint8_t present18;
+    uint32_t value18;
+    uint8_t present19;
+    uint8_t value19;
+    uint8_t present1A;
+    uint8_t value1A;
+    uint8_t present1C;
+    uint8_t value1C;
+    uint8_t present1D;
+    uint8_t value1D;
+    uint8_t present1E;
+    uint8_t value1E;
+} FlowSpecification;
+
+/* QOS: one packet filter of a QoS spec.  Natural alignment (112 bytes), as
+ * for flows; `type` is 0x13 or 0x14.  A filter has no item 0x18, 0x1F or
+ * 0x20. */
+typedef struct FilterSpecification {
+    uint8_t type;
+    uint8_t index;
+    uint8_t present10;
+    uint8_t value10;
+    uint8_t present11;
+    uint8_t value11;
+    uint8_t present12;
+    uint32_t value12First;
+    uint32_t value12Second;
+    uint8_t present13;
+    uint32_t value13First;
+    uint32_t value13Second;
+    uint8_t present14;
+    uint8_t value14;
+    uint8_t present15;
+    uint8_t value15Byte0;
+    uint8_t value15Byte1;
+    uint8_t present16;
+    uint8_t value16[16];
+    uint8_t value16Last;
+    uint8_t present17;
+    uint8_t value17[16];
+    uint8_t value17Last;
+    uint8_t present19;
+    uint8_t value19Byte0;
+    uint8_t value19Byte1;
+    uint8_t present1A;
+    uint32_t value1A;
+    uint8_t present1B;
+    uint16_t value1BFirst;
+    uint16_t value1BSecond;
+    uint8_t present1C;
+    uint16_t value1CFirst;
+    uint16_t value1CSecond;
+    uint8_t present1D;
+    uint16_t value1DFirst;
+    uint16_t value1DSecond;
+    uint8_t present1E;
+    uint16_t value1EFirst;
+    uint16_t value1ESecond;
+    uint8_t present21;
+    uint32_t value21;
+} FilterSpecification;
+
+#pragma pack(push, 1)
+
+/* QOS: a set of flows and filters in caller-owned arrays.  Packed: the
+ * pointers lie unaligned.  Parsers read the pointers and write the counts. */
+typedef struct QoSSpec {
+    uint8_t flowCount;
+    uint8_t filterCount;
+    FlowSpecification* flows;
+    FilterSpecification* filters;
+} QoSSpec;
+
+/* QOS: item 0x10 of the flow-information list (6 bytes; the identifier is
+ * stored as little-endian bytes). */
+typedef struct QoSFlowState {
+    uint32_t identifier;
+    uint8_t status;
+    uint8_t event;
+} QoSFlowState;
+
+/* QOS: one list of network-supported QoS profiles (7 bytes on 32-bit hosts):
+ * technology (little-endian bytes), profile count and a caller array that
+ * receives the profile values as native words (may be null). */
+typedef struct QoSProfileList {
+    uint16_t technology;
+    uint8_t profileCount;
+    uint16_t* profiles;
+} QoSProfileList;
+
+#pragma pack(pop)
+
+/* Flow and filter specification codec: append one flow or filter to a QoS-spec
+ * record of type 0x10, or read one back from a received item. */
+ZOVQMI_API int fnRequestAddFlowSpecification(QmiTlvRecord* tlv, const FlowSpecification* flow);
+ZOVQMI_API int fnRequestAddFilterSpecification(QmiTlvRecord* tlv, const FilterSpecification* filter);
+ZOVQMI_API int fnResponseParseFlowSpecification(const uint8_t* item, int length, FlowSpecification* flow);
+ZOVQMI_API int fnResponseParseFilterSpecification(const uint8_t* item, int length, FilterSpecification* filter);
+
+ZOVQMI_API int zovQMIQOSResetReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIQOSResetResp(const uint8_t* msg, int len, QmiResult* result);
+
+ZOVQMI_API int zovQMIQOSSetEventReportReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIQOSSetEventReportReqAddGlobalFlowInfoReporting(uint8_t* buf, int bufsize, uint8_t report);
+ZOVQMI_API int zovQMIQOSSetEventReportReqAddNetworkSupportedQoSProfileChange(uint8_t* buf, int bufsize, uint8_t report,
+                                                                            uint16_t technology);
+ZOVQMI_API int zovQMIQOSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIQOSSetEventReportIND(const uint8_t* msg, int len);
+ZOVQMI_API int zovQMIQOSSetEventReportINDGetQoSFlowInfo(const uint8_t* msg, int len, QoSFlowState* state,
+                                                       QoSSpec* spec);
+ZOVQMI_API int zovQMIQOSSetEventReportINDGetNetworkSupportedQoSProfiles(const uint8_t* msg, int len,
+                                                                       QoSProfileList* list);
+
+ZOVQMI_API int zovQMIQOSRequestQoSReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIQOSRequestQoSReqAddQoSSpec(uint8_t* buf, int bufsize, uint8_t index, const QoSSpec* spec);
+ZOVQMI_API int zovQMIQOSRequestQoSReqAddQoSRequestOpcode(uint8_t* buf, int bufsize, uint8_t opcode);
+ZOVQMI_API int zovQMIQOSRequestQoSResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
+                                       uint32_t* identifiers);
+ZOVQMI_API int zovQMIQOSRequestQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* spec);
+
+ZOVQMI_API int zovQMIQOSReleaseQoSReq(uint8_t* buf, int bufsize, uint8_t count, const uint32_t* identifiers);
+ZOVQMI_API int zovQMIQOSReleaseQoSResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIQOSSuspendQoSReq(uint8_t* buf, int bufsize, uint8_t count, const uint32_t* identifiers);
+ZOVQMI_API int zovQMIQOSSuspendQoSResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIQOSResumeQoSReq(uint8_t* buf, int bufsize, uint8_t count, const uint32_t* identifiers);
+ZOVQMI_API int zovQMIQOSResumeQoSResp(const uint8_t* msg, int len, QmiResult* result);
+
+ZOVQMI_API int zovQMIQOSModifyQoSReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIQOSModifyQoSReqAddQoSSpec(uint8_t* buf, int bufsize, uint32_t identifier, uint8_t index,
+                                               const QoSSpec* spec);
+ZOVQMI_API int zovQMIQOSModifyQoSReqAddPrimaryQoSModifyRequest(uint8_t* buf, int bufsize, uint8_t primary);
+ZOVQMI_API int zovQMIQOSModifyQoSResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIQOSModifyQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* spec);
+
+ZOVQMI_API int zovQMIQOSGetGrantedQoSReq(uint8_t* buf, int bufsize, uint32_t identifier);
+ZOVQMI_API int zovQMIQOSGetGrantedQoSReqAddPrimaryGrantedQoSRequest(uint8_t* buf, int bufsize, uint8_t primary);
+ZOVQMI_API int zovQMIQOSGetGrantedQoSResp(const uint8_t* msg, int len, QmiResult* result);
+ZOVQMI_API int zovQMIQOSGetGrantedQoSRespGetTxQoSGrantedFlow(const uint8_t* msg, int len, FlowSpecification* flow);
+ZOVQMI_API int zovQMIQOSGetGrantedQoSRespGetRxQoSGrantedFlow(const uint8_t* msg, int len, FlowSpecification* flow);
+ZOVQMI_API int zovQMIQOSGetGrantedQoSRespGetExtendedErrorInfo(const uint8_t* msg, int len, uint16_t* error);
+
+ZOVQMI_API int zovQMIQOSGetQoSStatusReq(uint8_t* buf, int bufsize, uint32_t identifier);
+ZOVQMI_API int zovQMIQOSGetQoSStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status);
+ZOVQMI_API int zovQMIQOSStatusIND(const uint8_t* msg, int len, uint32_t* identifier, uint8_t* status,
+                                  uint8_t* event);
+ZOVQMI_API int zovQMIQOSStatusINDGetReasonCode(const uint8_t* msg, int len, uint8_t* reason);
+
+ZOVQMI_API int zovQMIQOSGetQoSNetworkStatusReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIQOSGetQoSNetworkStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status);
+ZOVQMI_API int zovQMIQOSNetworkStatusIND(const uint8_t* msg, int len, uint8_t* status);
+
+ZOVQMI_API int zovQMIQOSGetNWSupportedQoSProfilesReq(uint8_t* buf, int bufsize);
+ZOVQMI_API int zovQMIQOSGetNWSupportedQoSProfilesReqAddExtendedTechnologyPreference(uint8_t* buf, int bufsize,
+                                                                                   uint16_t preference);
+ZOVQMI_API int zovQMIQOSGetNWSupportedQoSProfilesResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
+                                                      QoSProfileList* lists);
+ZOVQMI_API int zovQMIQOSGetNWSupportedQoSProfilesRespGetExtendedErrorInfo(const uint8_t* msg, int len,
+                                                                         uint16_t* error);
+
+ZOVQMI_API int zovQMIQOSPrimaryQoSEventIND(const uint8_t* msg, int len, uint16_t* event);
+
 /* ------------------------------------------------------------ end QOS -- */
 
 #ifdef __cplusplus

@@ -64,7 +64,7 @@ QmiTlvRecord record(uint8_t type, const Bytes& value) {
     uint8_t* len = reinterpret_cast<uint8_t*>(&r) + 1;
     len[0] = uint8_t(value.size());
     len[1] = uint8_t(value.size() >> 8);
-    std::memcpy(r.value, value.data(), value.size());
+    if (!value.empty()) std::memcpy(r.value, value.data(), value.size());
     return r;
 }
 
@@ -377,7 +377,7 @@ TEST(RequestSkeleton, MandatoryItemFollowsTheHeader) {
 }
 
 TEST(RequestSkeleton, OptionalItemChecksBufferThenDataThenRoom) {
-    Bytes buf = buffer(12);
+    Bytes buf = buffer(16);
     ASSERT_EQ(zq::req(buf.data(), 12, kId), 7);
     EXPECT_EQ(zq::add(nullptr, 12, 0x10, zq::w8(1)), -1);
     EXPECT_EQ(zq::add(buf.data(), 12, 0x10, zq::wbytes(3, nullptr)), -1);
