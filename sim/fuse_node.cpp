@@ -93,7 +93,7 @@ int onOpen(const char* path, fuse_file_info* fi) {
 }
 
 int onRelease(const char*, fuse_file_info* fi) {
-    gModem->disconnect(int(fi->fh));
+    gModem->disconnect(int(fi->fh), false);
     std::lock_guard<std::mutex> lock(gMutex);
     auto it = gOpens.find(fi->fh);
     if (it != gOpens.end()) {

@@ -153,11 +153,14 @@ size_t Modem::clientCount(uint8_t service) const {
     return n;
 }
 
-void Modem::disconnect(int conn) {
+void Modem::disconnect(int conn, bool releaseIds) {
     std::lock_guard<std::mutex> lock(mutex_);
     State& st = *state_;
     for (auto it = st.clients.begin(); it != st.clients.end();) {
-        if (it->second.conn == conn) {
+        if (it->second.conn == conn && !releaseIds) {
+            it->second.conn = -1;
+            ++it;
+        } else if (it->second.conn == conn) {
             if (it->first.first == ZOVQMI_SERVICE_WDS) releaseWdsClient(st, it->first.second);
             it = st.clients.erase(it);
         } else {
@@ -223,7 +226,11 @@ std::vector<Frame> Modem::receive(int conn, const uint8_t* frame, size_t len) {
     Req r{conn, service, client, tx, id, control, msg + hdr, areaLen};
     Reply result;
     try {
-        if (!control && !st.client(service, client)) throw Fail{kErrInvalidClientId};
+        if (!control) {
+            Client* c = st.client(service, client);
+            if (!c) throw Fail{kErrInvalidClientId};
+            c->conn = conn;  // indications go where the client id is used
+        }
         switch (service) {
         case ZOVQMI_SERVICE_CTL: result = handleCtl(st, r); break;
         case ZOVQMI_SERVICE_DMS: result = handleDms(st, r); break;

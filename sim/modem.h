@@ -89,8 +89,10 @@ public:
     // Handles one frame written on connection `conn`.  Thread-safe.
     std::vector<Frame> receive(int conn, const uint8_t* frame, size_t len);
 
-    // A connection went away: its client ids are released.
-    void disconnect(int conn);
+    // A connection went away.  With `releaseIds` its client ids are
+    // released (and their calls end); without, they stay allocated, as on a
+    // real control device, and follow the next connection that uses them.
+    void disconnect(int conn, bool releaseIds = true);
 
     // A short message arrives from the network: it is stored (store 1,
     // tag "not read") and WMS clients registered for new messages get an

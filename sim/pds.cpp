@@ -45,21 +45,19 @@ uint64_t bitsOf(double d) {
     return b;
 }
 
-// The parsed position record as this modem fills it: valid mask, UTC date
-// and time (year, month, day, hour, minute, second, weekday, ms, leap
-// seconds), latitude (double), horizontal uncertainty (cm), longitude and
-// altitude (doubles), twelve reserved words, fix type, three reserved words
-// and the number of satellites used.
+// The parsed position record: valid mask, UTC date and time, the UTC time
+// stamp in ms, latitude and longitude (doubles), altitudes in metres, speeds
+// and uncertainties, confidence, dilutions of precision (tenths) and the
+// position source (1, GPS).
 Bytes parsedPosition(const std::tm& t, uint64_t ms) {
     W w;
-    w.u32(0x0000001F).u16(uint32_t(t.tm_year + 1900)).u8(uint32_t(t.tm_mon + 1)).u8(uint32_t(t.tm_mday));
-    w.u8(uint32_t(t.tm_hour)).u8(uint32_t(t.tm_min)).u8(uint32_t(t.tm_sec)).u8(uint32_t(t.tm_wday));
-    w.u16(uint32_t(ms % 1000)).u8(18);
-    w.u64(bitsOf(kLatitude)).u32(500).u64(bitsOf(kLongitude)).u64(bitsOf(kAltitude));
-    for (int i = 0; i < 12; ++i) w.u32(0);
-    w.u8(3);
-    for (int i = 0; i < 3; ++i) w.u32(0);
-    w.u8(8);
+    w.u32(0x0000FFFF).u16(uint32_t(t.tm_year + 1900)).u8(uint32_t(t.tm_mon + 1)).u8(uint32_t(t.tm_wday));
+    w.u8(uint32_t(t.tm_mday)).u8(uint32_t(t.tm_hour)).u8(uint32_t(t.tm_min)).u8(uint32_t(t.tm_sec));
+    w.u16(uint32_t(ms % 1000)).u8(18).u64(ms).u32(10);
+    w.u64(bitsOf(kLatitude)).u64(bitsOf(kLongitude)).u32(73).u32(uint32_t(kAltitude));
+    w.u32(0).u32(0).u32(0);                      // speeds and heading
+    for (int i = 0; i < 7; ++i) w.u32(5);        // uncertainties
+    w.u8(68).u32(12).u32(9).u32(8).u8(1);
     return w;
 }
 
