@@ -1,4 +1,5 @@
 // zovqmi-cli: one modem operation per option, in the order given.
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
@@ -40,6 +41,7 @@ void usage(FILE* out) {
         "  --wms-read STORE INDEX         one message: tag, PDU and its text\n"
         "  --pbm-read FIRST[-LAST]        phonebook records (ADN) by record id, or 'all'\n"
         "  --pds-single-fix               one GPS fix: NMEA sentences and the position\n"
+        "  --send-raw SERVICE:MSGID       send a request without items and print its result\n"
         "\n"
         "Options:\n"
         "  -d, --device PATH              the QMI control device (required)\n"
@@ -73,6 +75,12 @@ struct Out {
         else std::printf("%s\n", human.c_str());
     }
 };
+
+std::string v_hex(uint16_t id) {
+    char b[8];
+    std::snprintf(b, sizeof b, "0x%04X", id);
+    return b;
+}
 
 struct Usage : std::runtime_error {
     using std::runtime_error::runtime_error;
@@ -302,6 +310,35 @@ int main(int argc, char** argv) {
                               f.longitude, f.altitude);
                 out.add("fix", "{\"nmea\": [" + jn + "], " + jpos + "}", h + pos);
             });
+            else if (a == "--send-raw") {
+                std::string v = arg("SERVICE:MSGID");
+                size_t c = v.find(':');
+                int svc = c == std::string::npos ? -1 : serviceByName(v.substr(0, c));
+                if (svc < 0) throw Usage("bad --send-raw " + v);
+                uint16_t id = uint16_t(number(v.substr(c + 1), "message id"));
+                actions.push_back([&out, svc, id](Session& s) {
+                    // A bare request: header only, built with the library's transaction ids.
+                    uint8_t msg[7];
+                    uint16_t tx = uint16_t(zovQMIMSMGetNextTransactionID());
+                    int n = svc == 0 ? 6 : 7;
+                    if (svc == 0) {
+                        uint8_t ctl[6] = {0, uint8_t(tx), uint8_t(id), uint8_t(id >> 8), 0, 0};
+                        std::copy(ctl, ctl + 6, msg);
+                    } else {
+                        uint8_t req[7] = {0, uint8_t(tx), uint8_t(tx >> 8), uint8_t(id), uint8_t(id >> 8), 0, 0};
+                        std::copy(req, req + 7, msg);
+                    }
+                    Message m = s.request(uint8_t(svc), msg, n);
+                    const uint8_t* area = m.data() + n;
+                    uint16_t vl = 0;
+                    const uint8_t* r = m.len() >= n ? zovQMIMSMGetTLV(area, m.len() - n, 0x02, &vl) : nullptr;
+                    if (!r || vl < 4) throw Error("raw request: no result in the answer");
+                    QmiResult res;
+                    std::copy(r, r + 4, reinterpret_cast<uint8_t*>(&res));
+                    Session::check("raw request " + v_hex(id), res);
+                    out.add("raw", "{\"result\": 0}", "result: success");
+                });
+            }
             else throw Usage("unknown option " + a);
         }
         if (device.empty()) throw Usage("no device given (-d PATH)");
