@@ -634,7 +634,7 @@ TEST(NasServingSystem, ResponseFillsTheStateBytesAndTheRadioList) {
     NASServingSystem ss = untouchedServing(list.data());
     EXPECT_EQ(zovQMINASGetServingSystemResp(msg.data(), int(msg.size()), &r, &ss), 17);
     EXPECT_EQ(head(bytesOf(&ss), 5), Bytes({0x01, 0x01, 0x02, 0x03, 0x02}));
-    EXPECT_EQ(ss.list, list.data());
+    EXPECT_EQ(+ss.list, list.data());
     EXPECT_EQ(list, Bytes({0x04, 0x05, 0xEE}));
     EXPECT_EQ(zovQMINASGetServingSystemResp(msg.data(), int(msg.size()), &r, nullptr), -1);
     Bytes without = svcMessage(0x0024, {result()});
@@ -647,7 +647,7 @@ TEST(NasServingSystem, NullListPointerFillsTheFirstFiveBytesAndCopiesNothing) {
     NASServingSystem ss = untouchedServing(nullptr);
     EXPECT_EQ(zovQMINASGetServingSystemResp(msg.data(), int(msg.size()), &r, &ss), 17);
     EXPECT_EQ(head(bytesOf(&ss), 5), Bytes({0x01, 0x02, 0x03, 0x04, 0x02}));
-    EXPECT_EQ(ss.list, nullptr);
+    EXPECT_EQ(+ss.list, nullptr);
 }
 
 TEST(NasServingSystem, ListRunningPastTheBufferIsMalformedAndWritesNothing) {

@@ -1159,8 +1159,8 @@ TEST(WdsProfileList, NullNamePointersGetTypeIndexAndLengthButNoName) {
     EXPECT_EQ(list[1].profileType, 0x01);
     EXPECT_EQ(list[1].profileIndex, 0x02);
     EXPECT_EQ(list[1].nameLength, 5);
-    EXPECT_EQ(list[0].name, nullptr);
-    EXPECT_EQ(list[1].name, nullptr);
+    EXPECT_EQ(+list[0].name, nullptr);
+    EXPECT_EQ(+list[1].name, nullptr);
 }
 
 TEST(WdsProfileList, NameRunningPastTheBufferIsMalformedAndNothingIsWritten) {
@@ -1329,7 +1329,7 @@ TEST(WdsRuntime, NameListsFillLengthsAndCopyIntoTheCallersBuffers) {
         std::memset(&list[1].length, 0, 2);
         EXPECT_EQ(g.get(msg.data(), L(msg), &count, list), L(names()));
         EXPECT_EQ(rd16(&list[1].length), 7);
-        EXPECT_EQ(list[1].name, nullptr);
+        EXPECT_EQ(+list[1].name, nullptr);
         // Null list: the count only.
         count = 0;
         EXPECT_EQ(g.get(msg.data(), L(msg), &count, nullptr), L(names()));
