@@ -1,6 +1,6 @@
 // QOS of the simulated modem: flows on top of a running data call.
 //
-// Each QoS spec of a RequestQoS (item 0x10) becomes one flow; status
+// Each QoSSpec item (0x10) of a RequestQoS becomes one flow; status
 // indications (id, status, event) follow every change: status 1 activated,
 // 2 suspended, 3 released; event 1 activated, 2 suspended, 3 released,
 // 5 resumed.
@@ -52,15 +52,15 @@ Reply handleQos(State& st, const Req& r) {
     case 0x0001:  // SetEventReport
         me.reg[ZOVQMI_SERVICE_QOS] = r.areaLen ? 1 : 0;
         return ok();
-    case 0x0020: {  // RequestQoS: one flow per QoS spec, needs a data call of this connection
-        int specs = 0;
+    case 0x0020: {  // RequestQoS: one flow per QoSSpec item, needs a data call of this connection
+        int qosItems = 0;
         for (uint16_t off = 0; off + 3 <= r.areaLen; off += 3 + (r.area[off + 1] | r.area[off + 2] << 8))
-            specs += r.area[off] == 0x10;
-        if (specs == 0) return fail(kErrMissingArgument);
+            qosItems += r.area[off] == 0x10;
+        if (qosItems == 0) return fail(kErrMissingArgument);
         if (!hasCall(st, me.conn)) return fail(kErrOutOfCall);
         W ids;
-        ids.u8(uint32_t(specs));
-        for (int i = 0; i < specs; ++i) {
+        ids.u8(uint32_t(qosItems));
+        for (int i = 0; i < qosItems; ++i) {
             uint32_t id = st.nextQosId++;
             st.flows[id] = QosFlow{id, r.client, kActivated};
             ids.u32(id);

@@ -576,13 +576,13 @@ TEST_F(Sim, PhonebookRecordsAreReadWrittenSearchedAndDeleted) {
 
 TEST_F(Call, QosFlowsAreRequestedReportedAndReleased) {
     uint8_t qos = c.clientId(ZOVQMI_SERVICE_QOS);
-    Bytes spec = tlv(0x10, cat({tlv(0x10, {0})}));
-    Msg m = c.ask(ZOVQMI_SERVICE_QOS, qos, request(0x0020, {spec}));
+    Bytes qosItem = tlv(0x10, cat({tlv(0x10, {0})}));
+    Msg m = c.ask(ZOVQMI_SERVICE_QOS, qos, request(0x0020, {qosItem}));
     EXPECT_EQ(resultOf(m, 0x0020), std::make_pair(1, int(zovsim::kErrOutOfCall)));
 
     c.ask(ZOVQMI_SERVICE_WDS, wds, request(0x0020, {}));
     c.next();
-    m = c.ask(ZOVQMI_SERVICE_QOS, qos, request(0x0020, {spec}));
+    m = c.ask(ZOVQMI_SERVICE_QOS, qos, request(0x0020, {qosItem}));
     ASSERT_EQ(resultOf(m, 0x0020), kOk);
     Bytes ids = item(m, 0x0020, 0x01);
     ASSERT_EQ(ids.size(), 5u);
