@@ -203,17 +203,17 @@ std::vector<Frame> Modem::receive(int conn, const uint8_t* frame, size_t len) {
         if (control) {
             QmiMessageEntry entry{};
             info.entries = &entry;
-            whole = zovQMIMSMControlParse(msg, int(mlen), &info) == 1 && 6u + entry.length == mlen;
-            areaLen = entry.length;
+            // The entry's fields are little-endian bytes; the header has them too.
+            areaLen = le16(msg + 4);
+            whole = zovQMIMSMControlParse(msg, int(mlen), &info) == 1 && 6u + areaLen == mlen;
         } else {
             // The message walk does not visit a message without TLVs (its
             // head ends at the buffer's end): that one is a bare header.
             std::vector<QmiMessageEntry> entries(mlen / 4 + 1);
             info.entries = entries.data();
             int count = zovQMIMSMMessageParse(msg, int(mlen), &info);
-            if (count == 0) whole = mlen == 7 && le16(msg + 5) == 0;
-            else whole = count == 1 && 7u + entries[0].length == mlen;
-            areaLen = count == 1 ? entries[0].length : 0;
+            areaLen = le16(msg + 5);
+            whole = count <= 1 && 7u + areaLen == mlen;
         }
         whole = whole && wellFormedArea(msg + hdr, areaLen);
     }
