@@ -99,7 +99,10 @@ Bytes buildMessage(bool control, uint8_t flags, uint16_t tx, uint16_t id, const 
     for (const Tlv& t : tlvs) {
         if (t.value.size() > sizeof rec.value) continue;  // the modem never builds such values
         rec.type = t.type;
-        rec.length = uint16_t(t.value.size());
+        // The record mirrors the wire: its length is little-endian bytes on every host.
+        uint8_t* length = reinterpret_cast<uint8_t*>(&rec.length);
+        length[0] = uint8_t(t.value.size());
+        length[1] = uint8_t(t.value.size() >> 8);
         if (!t.value.empty()) std::memcpy(rec.value, t.value.data(), t.value.size());
         n = control ? zovQMIMSMControlAddTLV(msg.data(), int(msg.size()), &rec)
                     : zovQMIMSMMessageAddTLV(msg.data(), int(msg.size()), &rec);
