@@ -30,7 +30,7 @@ if [ -r /dev/fuse ] && [ -w /dev/fuse ]; then
   log=$dir.log
   "$sim" --fuse "$dir" >"$log" 2>&1 &
   simpid=$!
-  trap 'kill $simpid 2>/dev/null; wait $simpid 2>/dev/null; rmdir "$dir" 2>/dev/null; rm -f "$log"' EXIT
+  trap 'kill $simpid 2>/dev/null; wait $simpid 2>/dev/null || true; rmdir "$dir" 2>/dev/null || true; rm -f "$log"' EXIT
   device=""
   for _ in $(seq 100); do
     device=$(sed -n 's/^device: //p' "$log")
