@@ -155,14 +155,22 @@ private:
     bool dry_;
 };
 
+// One pass of a decoder over an item; false when a read fell outside the
+// received buffer.  Kept out of line: the decoder's body then exists once,
+// not once per pass, and its locals live in this frame, not in the frame of
+// the export, so no export's frame grows with the two inlined passes.
+template <class F>
+[[gnu::noinline]] bool decodePass(const Item& it, bool dry, F& f) {
+    Dec d(it, dry);
+    f(d);
+    return !d.bad();
+}
+
 // Runs a decoder over an item: dry, then for real.  0 or kErrMalformed.
 template <class F>
 int decode(const Item& it, F& f) {
-    Dec dry(it, true);
-    f(dry);
-    if (dry.bad()) return kErrMalformed;
-    Dec real(it, false);
-    f(real);
+    if (!decodePass(it, true, f)) return kErrMalformed;
+    decodePass(it, false, f);
     return 0;
 }
 
