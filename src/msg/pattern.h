@@ -156,12 +156,12 @@ private:
 };
 
 // One pass of a decoder over an item; false when a read fell outside the
-// received buffer.  Kept out of line: the decoder's body then exists once,
-// not once per pass, and its locals live in this frame, not in the frame of
-// the export, so no export's frame grows with the two inlined passes.
-template <class F>
-[[gnu::noinline]] bool decodePass(const Item& it, bool dry, F& f) {
-    Dec d(it, dry);
+// received buffer.  Kept out of line: the decoder's locals then live in this
+// frame, not in the frame of the export, so no export's frame holds both
+// inlined passes at once.
+template <bool Dry, class F>
+[[gnu::noinline]] bool decodePass(const Item& it, F& f) {
+    Dec d(it, Dry);
     f(d);
     return !d.bad();
 }
@@ -169,8 +169,8 @@ template <class F>
 // Runs a decoder over an item: dry, then for real.  0 or kErrMalformed.
 template <class F>
 int decode(const Item& it, F& f) {
-    if (!decodePass(it, true, f)) return kErrMalformed;
-    decodePass(it, false, f);
+    if (!decodePass<true>(it, f)) return kErrMalformed;
+    decodePass<false>(it, f);
     return 0;
 }
 
