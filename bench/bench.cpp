@@ -17,14 +17,17 @@ void runScenario(benchmark::State& state, const zb::Scenario* s) {
     state.counters["bytes"] = bytes;
 }
 
-int registerAll() {
+}  // namespace
+
+int main(int argc, char** argv) {
+    // The fixtures are built here, not during static initialisation, where
+    // the scenarios' own globals may not be constructed yet.
     zb::setupScenarios();
     for (size_t i = 0; i < zb::kScenarioCount; ++i)
         benchmark::RegisterBenchmark(zb::kScenarios[i].name, runScenario, &zb::kScenarios[i]);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
     return 0;
 }
-const int registered = registerAll();
-
-}  // namespace
-
-BENCHMARK_MAIN();
