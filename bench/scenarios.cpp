@@ -327,13 +327,13 @@ void setupScenarios() {
     gReqFilters[0] = fullFilter(0x13), gReqFilters[1] = fullFilter(0x14);
     {
         // The library's own encoding of one flow and one filter: item 0x10
-        // of the spec, whose flow and filter items carry the parameters.
+        // of the QoS-spec item, whose flow and filter items carry the parameters.
         QoSSpec one;
         one.flowCount = 1, one.filterCount = 1, one.flows = gReqFlows, one.filters = gReqFilters;
         uint8_t b[1024];
         int n = zovQMIQOSRequestQoSReq(b, sizeof b);
         n = check(zovQMIQOSRequestQoSReqAddQoSSpec(b, sizeof b, 0, &one));
-        // Request: header 7, item 0x10 header 3, spec index item 4, then the
+        // Request: header 7, item 0x10 header 3, its index item 4, then the
         // flow item 0x11 {0x10 {params}} and the filter item 0x13 {0x10 {params}}.
         Bytes spec(b + 7 + 3, b + n);
         size_t off = 4;  // behind the index item
