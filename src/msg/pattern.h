@@ -155,14 +155,22 @@ private:
     bool dry_;
 };
 
+// One pass of a decoder over an item; false when a read fell outside the
+// received buffer.  Kept out of line: the decoder's locals then live in this
+// frame, not in the frame of the export, so no export's frame holds both
+// inlined passes at once.
+template <bool Dry, class F>
+[[gnu::noinline]] bool decodePass(const Item& it, F& f) {
+    Dec d(it, Dry);
+    f(d);
+    return !d.bad();
+}
+
 // Runs a decoder over an item: dry, then for real.  0 or kErrMalformed.
 template <class F>
 int decode(const Item& it, F& f) {
-    Dec dry(it, true);
-    f(dry);
-    if (dry.bad()) return kErrMalformed;
-    Dec real(it, false);
-    f(real);
+    if (!decodePass<true>(it, f)) return kErrMalformed;
+    decodePass<false>(it, f);
     return 0;
 }
 
