@@ -68,6 +68,61 @@ int storeResult(const Message& m, QmiResult* result) {
     return 0;
 }
 
+int decode(const Item& it, DecoderRef f) {
+    Dec dry(it, true);
+    f(dry);
+    if (dry.bad()) return kErrMalformed;
+    Dec real(it, false);
+    f(real);
+    return 0;
+}
+
+int respItem(Header h, const uint8_t* msg, int len, QmiResult* result, uint16_t id, bool outsOk, DecoderRef f) {
+    if (!msg || !result || !outsOk) return kErrArg;
+    Message m;
+    if (int r = findMessage(h, msg, len, id, &m)) return r;
+    if (int r = storeResult(m, result)) return r;
+    Item it;
+    if (int r = findTlv(m, 0x01, &it)) return r == kErrNoTlv ? kErrNoMandatory : r;
+    if (int r = decode(it, f)) return r;
+    return m.areaLen;
+}
+
+int respResult(Header h, const uint8_t* msg, int len, QmiResult* result, uint16_t id) {
+    if (!msg || !result) return kErrArg;
+    Message m;
+    if (int r = findMessage(h, msg, len, id, &m)) return r;
+    if (int r = storeResult(m, result)) return r;
+    return m.areaLen;
+}
+
+int getItem(Header h, const uint8_t* msg, int len, uint16_t id, uint8_t type, bool outsOk, DecoderRef f) {
+    if (!msg || !outsOk) return kErrArg;
+    Message m;
+    if (int r = findMessage(h, msg, len, id, &m)) return r;
+    Item it;
+    if (int r = findTlv(m, type, &it)) return r;
+    if (int r = decode(it, f)) return r;
+    return it.length;
+}
+
+int indItem(Header h, const uint8_t* msg, int len, uint16_t id, bool outsOk, DecoderRef f) {
+    if (!msg || !outsOk) return kErrArg;
+    Message m;
+    if (int r = findMessage(h, msg, len, id, &m)) return r;
+    Item it;
+    if (int r = findTlv(m, 0x01, &it)) return r;
+    if (int r = decode(it, f)) return r;
+    return m.areaLen;
+}
+
+int indId(Header h, const uint8_t* msg, int len, uint16_t id) {
+    if (!msg) return kErrArg;
+    Message m;
+    if (int r = findMessage(h, msg, len, id, &m)) return r;
+    return m.areaLen;
+}
+
 void writeHeader(Header h, uint8_t* buf, uint16_t id, uint16_t areaLen) {
     buf[0] = 0;  // control flags
     uint16_t tx = nextTransactionId();

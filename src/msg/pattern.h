@@ -155,24 +155,24 @@ private:
     bool dry_;
 };
 
-// One pass of a decoder over an item; false when a read fell outside the
-// received buffer.  Kept out of line: the decoder's locals then live in this
-// frame, not in the frame of the export, so no export's frame holds both
-// inlined passes at once.
-template <bool Dry, class F>
-[[gnu::noinline]] bool decodePass(const Item& it, F& f) {
-    Dec d(it, Dry);
-    f(d);
-    return !d.bad();
-}
+// A decoder handed to the skeletons: the address of the caller's callable and
+// a trampoline that invokes it.  The skeletons are then compiled once, out of
+// line, and each export adds only its own decoder body.
+class DecoderRef {
+public:
+    template <class F>
+    DecoderRef(F& f)  // NOLINT(google-explicit-constructor): built at every skeleton call
+        : obj_(const_cast<void*>(static_cast<const void*>(&f))),
+          call_([](void* o, Dec& d) { (*static_cast<F*>(o))(d); }) {}
+    void operator()(Dec& d) const { call_(obj_, d); }
+
+private:
+    void* obj_;
+    void (*call_)(void*, Dec&);
+};
 
 // Runs a decoder over an item: dry, then for real.  0 or kErrMalformed.
-template <class F>
-int decode(const Item& it, F& f) {
-    if (!decodePass<true>(it, f)) return kErrMalformed;
-    decodePass<false>(it, f);
-    return 0;
-}
+int decode(const Item& it, DecoderRef f);
 
 // True when every pointer given is non-null: the required outputs of a parser.
 template <class... P>
@@ -210,60 +210,41 @@ inline auto nothing() {
 
 // ----------------------------------------------------------- skeletons --
 
+// The skeletons themselves, out of line (see pattern.cpp).
+int respItem(Header h, const uint8_t* msg, int len, QmiResult* result, uint16_t id, bool outsOk, DecoderRef f);
+int respResult(Header h, const uint8_t* msg, int len, QmiResult* result, uint16_t id);
+int getItem(Header h, const uint8_t* msg, int len, uint16_t id, uint8_t type, bool outsOk, DecoderRef f);
+int indItem(Header h, const uint8_t* msg, int len, uint16_t id, bool outsOk, DecoderRef f);
+int indId(Header h, const uint8_t* msg, int len, uint16_t id);
+
 // Response with a mandatory item 0x01 decoded by f.
 template <Header H = kService, class F>
 int resp(const uint8_t* msg, int len, QmiResult* result, uint16_t id, bool outsOk, F&& f) {
-    if (!msg || !result || !outsOk) return kErrArg;
-    Message m;
-    if (int r = findMessage(H, msg, len, id, &m)) return r;
-    if (int r = storeResult(m, result)) return r;
-    Item it;
-    if (int r = findTlv(m, 0x01, &it)) return r == kErrNoTlv ? kErrNoMandatory : r;
-    if (int r = decode(it, f)) return r;
-    return m.areaLen;
+    return respItem(H, msg, len, result, id, outsOk, DecoderRef(f));
 }
 
 // Response that carries only the result item.
 template <Header H = kService>
 int resp(const uint8_t* msg, int len, QmiResult* result, uint16_t id) {
-    if (!msg || !result) return kErrArg;
-    Message m;
-    if (int r = findMessage(H, msg, len, id, &m)) return r;
-    if (int r = storeResult(m, result)) return r;
-    return m.areaLen;
+    return respResult(H, msg, len, result, id);
 }
 
 // Optional item `type` of a response or indication, decoded by f.
 template <Header H = kService, class F>
 int get(const uint8_t* msg, int len, uint16_t id, uint8_t type, bool outsOk, F&& f) {
-    if (!msg || !outsOk) return kErrArg;
-    Message m;
-    if (int r = findMessage(H, msg, len, id, &m)) return r;
-    Item it;
-    if (int r = findTlv(m, type, &it)) return r;
-    if (int r = decode(it, f)) return r;
-    return it.length;
+    return getItem(H, msg, len, id, type, outsOk, DecoderRef(f));
 }
 
 // Indication with a mandatory item 0x01 decoded by f (-3 when it is missing).
 template <Header H = kService, class F>
 int ind(const uint8_t* msg, int len, uint16_t id, bool outsOk, F&& f) {
-    if (!msg || !outsOk) return kErrArg;
-    Message m;
-    if (int r = findMessage(H, msg, len, id, &m)) return r;
-    Item it;
-    if (int r = findTlv(m, 0x01, &it)) return r;
-    if (int r = decode(it, f)) return r;
-    return m.areaLen;
+    return indItem(H, msg, len, id, outsOk, DecoderRef(f));
 }
 
 // Indication whose items are read by getters: confirms the id only.
 template <Header H = kService>
 int ind(const uint8_t* msg, int len, uint16_t id) {
-    if (!msg) return kErrArg;
-    Message m;
-    if (int r = findMessage(H, msg, len, id, &m)) return r;
-    return m.areaLen;
+    return indId(H, msg, len, id);
 }
 
 // ------------------------------------------------------------ building --
