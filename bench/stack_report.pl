@@ -73,7 +73,7 @@ for my $src (sort keys %edges) {
 }
 my %byfile;
 for my $f (sort keys %frame) {
-    next if $f =~ /^zovQMI/ || $called{$f};
+    next if $f =~ /^(zovQMI|zovPrintHex$|fn(Request|Response))/ || $called{$f};
     push @{$byfile{$file{$f}}}, $f;
 }
 for my $src (sort keys %indirect) {
@@ -128,7 +128,7 @@ sub short {
     return "$l($frame{$f})";
 }
 
-my @exports = grep { /^zovQMI/ } keys %frame;
+my @exports = grep { /^(zovQMI|zovPrintHex$|fn(RequestAdd|ResponseParse)(Flow|Filter)Specification$)/ } keys %frame;
 walk($_) for @exports;
 @exports = $sort eq 'name' ? sort @exports
          : sort { $depth{$b} <=> $depth{$a} || $largest{$b} <=> $largest{$a} || $a cmp $b } @exports;
