@@ -3,16 +3,6 @@
 // parser: each call records its message (and its argument word) as a seed.
 #include "corpus_tap.h"
 
-extern "C" int __real_fnResponseParseFilterSpecification(const uint8_t* item, int length, FilterSpecification* filter);
-extern "C" int __wrap_fnResponseParseFilterSpecification(const uint8_t* item, int length, FilterSpecification* filter) {
-    zovFuzzTap(2, item, length, 0);
-    return __real_fnResponseParseFilterSpecification(item, length, filter);
-}
-extern "C" int __real_fnResponseParseFlowSpecification(const uint8_t* item, int length, FlowSpecification* flow);
-extern "C" int __wrap_fnResponseParseFlowSpecification(const uint8_t* item, int length, FlowSpecification* flow) {
-    zovFuzzTap(3, item, length, 0);
-    return __real_fnResponseParseFlowSpecification(item, length, flow);
-}
 extern "C" int __real_zovQMICTLConfigPwrSaveSettingsResp(const uint8_t* msg, int len, QmiResult* result);
 extern "C" int __wrap_zovQMICTLConfigPwrSaveSettingsResp(const uint8_t* msg, int len, QmiResult* result) {
     zovFuzzTap(4, msg, len, 0);

@@ -17,7 +17,9 @@ const char* const kNames[] = {
 void zovFuzzTap(unsigned index, const uint8_t* msg, int len, uint16_t arg) {
     const char* dir = std::getenv("ZOVQMI_CORPUS_DIR");
     if (!dir || !msg || len < 0 || len > kFuzzMaxMessage || index >= sizeof kNames / sizeof kNames[0]) return;
-    std::vector<uint8_t> seed = {uint8_t(index), uint8_t(index >> 8), 0, uint8_t(arg), uint8_t(arg >> 8)};
+    uint32_t name = zovFuzzNameHash(kNames[index]);
+    std::vector<uint8_t> seed = {uint8_t(name), uint8_t(name >> 8), uint8_t(name >> 16), uint8_t(name >> 24),
+                                 0, uint8_t(arg), uint8_t(arg >> 8)};
     seed.insert(seed.end(), msg, msg + len);
     uint64_t h = 0xcbf29ce484222325ull;  // FNV-1a, so that repeated inputs land in one file
     for (uint8_t b : seed) h = (h ^ b) * 0x100000001b3ull;

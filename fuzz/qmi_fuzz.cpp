@@ -1,6 +1,6 @@
 // The fuzz harness: one libFuzzer target over every parser of the library.
 //
-// The input's head (corpus_tap.h) picks a parser from fuzz/parsers.inc; the
+// The input's head (corpus_tap.h) names a parser of fuzz/parsers.inc; the
 // rest is the received message, copied into a heap buffer of exactly its
 // length so that AddressSanitizer reports any read at or past msg + len.
 // Every output is a heap block of its full layout size followed by guard
@@ -17,12 +17,14 @@
 
 #include <zovqmi.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #if defined(__has_feature)
@@ -171,10 +173,11 @@ private:
         share(p, n, offsetof(NetworkInitiatedPromptUMTSCP, block4), 255);
     }
     void prepare(QoSSpec* p, size_t n) {
-        // u8 counts of flows and filters.
+        // Flows and filters are indexed by their u8 counts, which wrap after
+        // entry 255: 256 entries.
         for (size_t i = 0; i < n; ++i) {
-            setPtr(p + i, offsetof(QoSSpec, flows), arr<FlowSpecification>(255));
-            setPtr(p + i, offsetof(QoSSpec, filters), arr<FilterSpecification>(255));
+            setPtr(p + i, offsetof(QoSSpec, flows), arr<FlowSpecification>(256));
+            setPtr(p + i, offsetof(QoSSpec, filters), arr<FilterSpecification>(256));
         }
     }
     void prepare(QoSProfileList* p, size_t n) { share(p, n, offsetof(QoSProfileList, profiles), 255 * sizeof(uint16_t)); }
@@ -258,9 +261,11 @@ const Entry kTable[] = {
 };
 constexpr size_t kCount = sizeof kTable / sizeof kTable[0];
 
-// The parsers selected by ZOVQMI_FUZZ_ONLY (all of them by default).
+// The parsers selected by ZOVQMI_FUZZ_ONLY (all of them by default), and
+// every parser's name hash with its index, sorted by hash.
 std::vector<uint16_t> selected;
 std::vector<bool> isSelected(kCount);
+std::vector<std::pair<uint32_t, uint16_t>> byHash;
 
 }  // namespace
 
@@ -271,6 +276,14 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
             selected.push_back(uint16_t(i));
             isSelected[i] = true;
         }
+    for (size_t i = 0; i < kCount; ++i) byHash.emplace_back(zovFuzzNameHash(kTable[i].name), uint16_t(i));
+    std::sort(byHash.begin(), byHash.end());
+    for (size_t i = 1; i < kCount; ++i)
+        if (byHash[i].first == byHash[i - 1].first) {
+            std::fprintf(stderr, "qmi_fuzz: %s and %s share a name hash\n", kTable[byHash[i].second].name,
+                         kTable[byHash[i - 1].second].name);
+            std::exit(2);
+        }
     if (selected.empty()) {
         std::fprintf(stderr, "qmi_fuzz: no parser starts with %s\n", only);
         std::exit(2);
@@ -280,7 +293,9 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (size < kFuzzHead || size - kFuzzHead > kFuzzMaxMessage) return -1;
-    size_t index = (data[0] | data[1] << 8) % kCount;
+    uint32_t hash = data[0] | data[1] << 8 | data[2] << 16 | uint32_t(data[3]) << 24;
+    auto it = std::lower_bound(byHash.begin(), byHash.end(), std::make_pair(hash, uint16_t(0)));
+    size_t index = it != byHash.end() && it->first == hash ? it->second : hash % kCount;
     if (!isSelected[index]) index = selected[index % selected.size()];
     const Entry& e = kTable[index];
     size_t len = size - kFuzzHead;
@@ -288,7 +303,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     uint8_t* msg = static_cast<uint8_t*>(std::malloc(len ? len : 1));
     if (!msg) std::abort();
     if (len) std::memcpy(msg, data + kFuzzHead, len);
-    In in{msg, static_cast<int>(len), static_cast<uint16_t>(data[3] | data[4] << 8), data[2]};
+    In in{msg, static_cast<int>(len), static_cast<uint16_t>(data[5] | data[6] << 8), data[4]};
     {
         Out o(in.flags & kFuzzNullOptional);
         int r = e.call(in, o);
