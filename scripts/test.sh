@@ -2,15 +2,20 @@
 # Builds the library and runs the whole test suite three times: on this
 # machine, for the 32-bit little-endian MIPS target under qemu-mipsel, and for
 # big-endian MIPS under qemu-mips (so that no wire datum can depend on the
-# host's byte order).  Installs the build tools a fresh Debian machine lacks.
-# Fails if any of the three fails.
+# host's byte order).  Then the hostile-input legs: the suite once more under
+# AddressSanitizer and UndefinedBehaviorSanitizer (asan, which also records
+# the messages the tests parse as fuzz seeds), the fuzz harness over every
+# parser, seeds first then a bounded run per service (fuzz), and the static
+# checks (lint: cppcheck, clang-tidy, generated tables up to date).
+# Installs the build tools a fresh Debian machine lacks.  Fails if any leg fails.
 #
-# Usage: scripts/test.sh [host|mipsel|mips ...]   (default: all three)
+# Usage: scripts/test.sh [host|mipsel|mips|asan|fuzz|lint ...]   (default: all)
+# ZOVQMI_FUZZ_SECONDS sets the fuzzing time per service (default 20).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 legs=("$@")
-[ ${#legs[@]} -gt 0 ] || legs=(host mipsel mips)
+[ ${#legs[@]} -gt 0 ] || legs=(host mipsel mips asan fuzz lint)
 
 need=()
 command -v cmake >/dev/null || need+=(cmake)
@@ -25,7 +30,20 @@ for leg in "${legs[@]}"; do
       command -v "$leg-linux-gnu-g++" >/dev/null || need+=("g++-$leg-linux-gnu")
       command -v "qemu-$leg" >/dev/null || need+=(qemu-user)
       ;;
-    *) echo "unknown leg: $leg (host, mipsel or mips)" >&2; exit 2 ;;
+    asan|fuzz)
+      command -v clang >/dev/null || need+=(clang)
+      command -v clang++ >/dev/null || need+=(clang)
+      # libFuzzer and the sanitizer runtimes
+      command -v clang >/dev/null && [ -f "$(clang -print-file-name=libclang_rt.fuzzer-x86_64.a)" ] ||
+        need+=(libclang-rt-dev)
+      ;;
+    lint)
+      command -v cppcheck >/dev/null || need+=(cppcheck)
+      command -v clang-tidy >/dev/null || need+=(clang-tidy)
+      command -v clang >/dev/null || need+=(clang)
+      command -v python3 >/dev/null || need+=(python3)
+      ;;
+    *) echo "unknown leg: $leg (host, mipsel, mips, asan, fuzz or lint)" >&2; exit 2 ;;
   esac
 done
 if [ ${#need[@]} -gt 0 ]; then
@@ -43,13 +61,19 @@ for leg in "${legs[@]}"; do
   echo "=== $leg ==="
   log=build/test-$leg.log
   start=$SECONDS
-  if cmake --workflow --preset "$leg" --fresh 2>&1 | tee "$log"; then
+  case $leg in
+    fuzz) run=(./fuzz/run.sh) ;;
+    lint) run=(./scripts/lint.sh) ;;
+    *) run=(cmake --workflow --preset "$leg" --fresh) ;;
+  esac
+  if "${run[@]}" 2>&1 | tee "$log"; then
     status=ok
   else
     status=FAILED
     failed+=("$leg")
   fi
-  # ctest's closing line: "NN% tests passed, F tests failed out of T"
+  # ctest's closing line: "NN% tests passed, F tests failed out of T" (the
+  # fuzz and lint legs print one in the same form: one "test" per target or check)
   line=$(grep -E '^[0-9]+% tests passed, [0-9]+ tests? failed out of [0-9]+' "$log" | tail -1 || true)
   if [ -n "$line" ]; then
     f=$(sed -E 's/.* ([0-9]+) tests? failed out of ([0-9]+).*/\1/' <<<"$line")

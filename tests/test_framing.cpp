@@ -202,6 +202,34 @@ TEST(ControlParse, AreaRunningPastTheBufferIsMalformed) {
     EXPECT_EQ(zovQMIMSMControlParse(msg.data(), 4, &info), ZOVQMI_ERR_MALFORMED);
 }
 
+TEST(ControlParse, MalformedAreaLeavesTheInfoRecordUntouched) {
+    Bytes msg = ctlMessage(0x0027, {result()}, 0x42, 0x01);
+    Bytes area(16, 0xEE);
+    QmiMessageEntry entry{0x1111, 0x2222, area.data()};
+    QmiMessageInfo info{0x33, 0x4444, 0x5555, &entry};
+    EXPECT_EQ(zovQMIMSMControlParse(msg.data(), int(msg.size()) - 1, &info), ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(info.controlFlags, 0x33);
+    EXPECT_EQ(uint16_t(info.transactionId), 0x4444);
+    EXPECT_EQ(uint16_t(info.messageCount), 0x5555);
+    EXPECT_EQ(uint16_t(entry.messageId), 0x1111);
+    EXPECT_EQ(uint16_t(entry.length), 0x2222);
+}
+
+TEST(MessageParse, MalformedLaterMessageLeavesEarlierEntriesUntouched) {
+    // The first message is whole; the second's area runs past the buffer.
+    Bytes msg = cat({{0x02}, le16(0x0102), le16(0x0020), le16(1), {0xAA}, le16(0x0021), le16(9), {0xBB}});
+    Bytes a1(4, 0xEE), a2(16, 0xEE);
+    QmiMessageEntry entries[2] = {{0x1111, 0x2222, a1.data()}, {0x1111, 0x2222, a2.data()}};
+    QmiMessageInfo info{0x33, 0x4444, 0x5555, entries};
+    EXPECT_EQ(zovQMIMSMMessageParse(msg.data(), int(msg.size()), &info), ZOVQMI_ERR_MALFORMED);
+    EXPECT_EQ(info.controlFlags, 0x33);
+    EXPECT_EQ(uint16_t(info.messageCount), 0x5555);
+    EXPECT_EQ(uint16_t(entries[0].messageId), 0x1111);
+    EXPECT_EQ(uint16_t(entries[0].length), 0x2222);
+    EXPECT_EQ(a1, Bytes(4, 0xEE));
+    EXPECT_EQ(a2, Bytes(16, 0xEE));
+}
+
 TEST(MessageParse, WalksEveryMessageOfTheBuffer) {
     Bytes msg = cat({{0x02}, le16(0x0102), le16(0x0020), le16(7), result(), le16(0x0021), le16(3), tlv(0x10, {})});
     Bytes a1(8, 0xEE), a2(4, 0xEE);
@@ -339,6 +367,21 @@ TEST(GetTLVList, ItemRunningPastTheAreaIsRefusedWhenCopied) {
     QmiTlvRecord rec[1];
     EXPECT_EQ(zovQMIMSMGetTLVList(area.data(), int(area.size()), rec), ZOVQMI_ERR_MALFORMED);
     EXPECT_EQ(zovQMIMSMGetTLVList(area.data(), int(area.size()), nullptr), 1);
+}
+
+TEST(GetTLVList, MalformedLaterItemLeavesEarlierRecordsUntouched) {
+    Bytes area = cat({tlv(0x10, {1, 2}), {0x11}, le16(5), {3}});
+    QmiTlvRecord rec[2];
+    std::memset(rec, 0xEE, sizeof rec);
+    EXPECT_EQ(zovQMIMSMGetTLVList(area.data(), int(area.size()), rec), ZOVQMI_ERR_MALFORMED);
+    const uint8_t* b = reinterpret_cast<const uint8_t*>(rec);
+    EXPECT_EQ(Bytes(b, b + sizeof rec), Bytes(sizeof rec, 0xEE));
+}
+
+TEST(GetTLVList, ItemSizeWrappingToZeroIsRefusedInsteadOfLoopingForever) {
+    // Length 0xFFFD plus the 3-byte head is 0 in 16 bits: the walk would not advance.
+    Bytes area = cat({{0x10}, le16(0xFFFD), {1, 2, 3}});
+    EXPECT_EQ(zovQMIMSMGetTLVList(area.data(), int(area.size()), nullptr), ZOVQMI_ERR_MALFORMED);
 }
 
 // ------------------------------------------------------------ skeletons --

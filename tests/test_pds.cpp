@@ -589,7 +589,7 @@ void setPtr(void* field, const void* p) { std::memcpy(field, &p, sizeof p); }
 // A block behind a length byte: copied into the record, or pointed at.
 void inlineBlock(uint8_t& length, uint8_t* block, const Bytes& b) {
     length = uint8_t(b.size());
-    std::memcpy(block, b.data(), b.size());
+    if (!b.empty()) std::memcpy(block, b.data(), b.size());
 }
 void pointerBlock(uint8_t& length, void* field, const Bytes& b) {
     length = uint8_t(b.size());

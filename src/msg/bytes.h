@@ -39,7 +39,7 @@ inline void copyBytes(void* dst, const void* src, size_t n) { __builtin_memcpy(d
 template <class T = uint8_t>
 inline T* ldPtr(const void* field) {
     T* p;
-    __builtin_memcpy(&p, field, sizeof p);
+    __builtin_memcpy(&p, field, sizeof p);  // NOLINT(bugprone-sizeof-expression): the pointer itself is copied
     return p;
 }
 

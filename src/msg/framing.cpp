@@ -53,14 +53,17 @@ extern "C" int zovQMIMSMMessageAddTLV(uint8_t* msg, int bufsize, const QmiTlvRec
 
 namespace {
 // Fills entry i of a caller's message list with id, length and, when the
-// entry has a value buffer, a copy of the TLV area at `area`.
-bool fillEntry(QmiMessageEntry* entries, unsigned i, View& v, size_t idOff, size_t area) {
+// entry has a value buffer, a copy of the TLV area at `area`.  With `write`
+// false it only checks that all of it lies inside the buffer, so that a
+// malformed message is refused before any output is written.
+bool fillEntry(QmiMessageEntry* entries, unsigned i, View& v, size_t idOff, size_t area, bool write) {
     uint8_t* e = reinterpret_cast<uint8_t*>(entries) + i * sizeof(QmiMessageEntry);
     uint16_t id = v.le16(idOff);
     uint16_t length = v.le16(idOff + 2);
     uint8_t* value = ldPtr(e + offsetof(QmiMessageEntry, value));
     const uint8_t* src = (value && length) ? v.bytes(area, length) : nullptr;
     if (v.bad()) return false;
+    if (!write) return true;
     st16(e + offsetof(QmiMessageEntry, messageId), id);
     st16(e + offsetof(QmiMessageEntry, length), length);
     if (src) copyBytes(value, src, length);
@@ -73,30 +76,40 @@ void storeInfo(QmiMessageInfo* out, uint8_t flags, uint16_t tx, uint16_t count) 
     st16(o + offsetof(QmiMessageInfo, transactionId), tx);
     st16(o + offsetof(QmiMessageInfo, messageCount), count);
 }
-}  // namespace
 
-extern "C" int zovQMIMSMControlParse(const uint8_t* msg, int len, QmiMessageInfo* out) {
-    if (len < 2 || !msg || !out) return kErrArg;
-    storeInfo(out, msg[0], msg[1], 1);
-    QmiMessageEntry* entries = ldPtr<QmiMessageEntry>(reinterpret_cast<uint8_t*>(out) + offsetof(QmiMessageInfo, entries));
-    if (!entries) return 1;
-    View v(msg, msg + len);
-    return fillEntry(entries, 0, v, 2, 6) ? 1 : kErrMalformed;
-}
-
-extern "C" int zovQMIMSMMessageParse(const uint8_t* msg, int len, QmiMessageInfo* out) {
-    if (len < 3 || !msg || !out) return kErrArg;
-    QmiMessageEntry* entries = ldPtr<QmiMessageEntry>(reinterpret_cast<uint8_t*>(out) + offsetof(QmiMessageInfo, entries));
+// The message walk of MessageParse from offset 3; returns the count, or -1
+// when an entry's fields lie beyond the buffer.
+long walkEntries(const uint8_t* msg, int len, QmiMessageEntry* entries, bool write) {
     View v(msg, msg + len);
     uint16_t i = 0;
     long off = 3;
     while (len > off + 4) {
         uint16_t length = ld16(msg + off + 2);
-        if (entries && !fillEntry(entries, i, v, static_cast<size_t>(off), static_cast<size_t>(off) + 4))
-            return kErrMalformed;
+        if (entries && !fillEntry(entries, i, v, static_cast<size_t>(off), static_cast<size_t>(off) + 4, write))
+            return -1;
         ++i;
         off += length + 4;
     }
+    return i;
+}
+}  // namespace
+
+extern "C" int zovQMIMSMControlParse(const uint8_t* msg, int len, QmiMessageInfo* out) {
+    if (len < 2 || !msg || !out) return kErrArg;
+    QmiMessageEntry* entries = ldPtr<QmiMessageEntry>(reinterpret_cast<uint8_t*>(out) + offsetof(QmiMessageInfo, entries));
+    View v(msg, msg + len);
+    if (entries && !fillEntry(entries, 0, v, 2, 6, false)) return kErrMalformed;
+    storeInfo(out, msg[0], msg[1], 1);
+    if (entries) fillEntry(entries, 0, v, 2, 6, true);
+    return 1;
+}
+
+extern "C" int zovQMIMSMMessageParse(const uint8_t* msg, int len, QmiMessageInfo* out) {
+    if (len < 3 || !msg || !out) return kErrArg;
+    QmiMessageEntry* entries = ldPtr<QmiMessageEntry>(reinterpret_cast<uint8_t*>(out) + offsetof(QmiMessageInfo, entries));
+    // Checked in full first: a malformed buffer leaves every entry as it was.
+    if (walkEntries(msg, len, entries, false) < 0) return kErrMalformed;
+    uint16_t i = static_cast<uint16_t>(walkEntries(msg, len, entries, true));
     storeInfo(out, msg[0], ld16(msg + 1), i);
     return i;
 }
@@ -117,21 +130,35 @@ extern "C" const uint8_t* zovQMIMSMGetTLV(const uint8_t* area, int len, uint8_t 
     return it.value;
 }
 
-extern "C" int zovQMIMSMGetTLVList(const uint8_t* area, int len, QmiTlvRecord* list) {
-    if (!area) return 0;
+namespace {
+// The item walk of GetTLVList; returns the count, or -1 when an item to be
+// copied lies beyond the area or exceeds a record's 1024-byte value.  With
+// `write` false it only checks, so that a malformed area leaves the list as
+// it was.
+long walkList(const uint8_t* area, int len, QmiTlvRecord* list, bool write) {
     View v(area, area + (len > 0 ? len : 0));
-    int i = 0;
+    long i = 0;
     long off = 0;
     while (len >= off + 3) {
         uint16_t length = ld16(area + off + 1);
         uint16_t n = static_cast<uint16_t>(length + 3);  // taken in 16 bits
+        // A length of 0xFFFD makes the item size wrap to 0: the walk would never end.
+        if (n == 0) return -1;
         if (list) {
             // The record's value holds 1024 bytes; the whole item must be in the area.
-            if (length > kMaxItemValue || !v.bytes(static_cast<size_t>(off), n)) return kErrMalformed;
-            copyBytes(reinterpret_cast<uint8_t*>(list) + static_cast<size_t>(i) * sizeof(QmiTlvRecord), area + off, n);
+            if (length > kMaxItemValue || !v.bytes(static_cast<size_t>(off), n)) return -1;
+            if (write)
+                copyBytes(reinterpret_cast<uint8_t*>(list) + static_cast<size_t>(i) * sizeof(QmiTlvRecord), area + off, n);
         }
         off += n;
         ++i;
     }
     return i;
+}
+}  // namespace
+
+extern "C" int zovQMIMSMGetTLVList(const uint8_t* area, int len, QmiTlvRecord* list) {
+    if (!area) return 0;
+    if (walkList(area, len, list, false) < 0) return kErrMalformed;
+    return static_cast<int>(walkList(area, len, list, true));
 }

@@ -371,7 +371,7 @@ template <Header H = kService, class... W>
 int add(uint8_t* buf, int bufsize, uint8_t type, W... w) {
     if (!buf) return kErrArg;
     if (!(true && ... && w.ok())) return kErrArg;
-    int total;
+    int total = 0;  // always set by reserveItem
     uint8_t* p = reserveItem(H, buf, bufsize, type, (size_t{0} + ... + w.size()), &total);
     if (!p) return total;
     (w.write(p), ...);
