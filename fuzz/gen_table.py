@@ -55,6 +55,12 @@ FIXED = {
 STRIDE = {
     "zovQMIWMSGetRoutesResp": {"routes": 4},
 }
+# Array elements whose counted bytes may run on past the element, as the wire
+# says (element type -> bytes the last element can spill beyond its end): an
+# emergency number holds 6 digits but its length byte may say 255.
+SPILL = {
+    "PBMEmergencyNumber": 255 - 6,
+}
 # The framing functions and the flow/filter codec are called through hand-written
 # helpers of the same name in namespace `hand` (qmi_fuzz.cpp); the two codec
 # builders take a record, not a message, and are not tapped.
@@ -104,6 +110,8 @@ def out_expr(name, params, i):
         stride = STRIDE.get(name, {}).get(pname)
         if stride:
             return "o.bytes(%d * %d)" % (n, stride)
+        if typ in SPILL:
+            return "o.bytes<%s>(%d * sizeof(%s) + %d)" % (typ, n, typ, SPILL[typ])
         return "o.arr<%s>(%d)" % (typ, n)
     if typ == "WMSRawMessage":
         return "o.bytes<WMSRawMessage>(sizeof(WMSRawMessage) + 65535)"

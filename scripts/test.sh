@@ -25,7 +25,13 @@ command -v gcc >/dev/null || need+=(gcc)
 [ -f /usr/src/googletest/CMakeLists.txt ] || need+=(googletest)
 for leg in "${legs[@]}"; do
   case $leg in
-    host) ;;
+    host)
+      # the benchmarks and stack budget check, and the simulator's device node
+      [ -f /usr/include/benchmark/benchmark.h ] || need+=(libbenchmark-dev)
+      [ -f /usr/include/fuse3/fuse.h ] || need+=(libfuse3-dev)
+      command -v fusermount3 >/dev/null || need+=(fuse3)
+      command -v pkg-config >/dev/null || need+=(pkg-config)
+      ;;
     mipsel|mips)
       command -v "$leg-linux-gnu-g++" >/dev/null || need+=("g++-$leg-linux-gnu")
       command -v "qemu-$leg" >/dev/null || need+=(qemu-user)
