@@ -226,7 +226,7 @@ int fnResponseParseFilterSpecification(const In& in, Out& o) {
     return ::fnResponseParseFilterSpecification(in.msg, in.len, o.rec<FilterSpecification>());
 }
 // The builders take a record under construction and a flow or filter: both
-// are filled from the input (the record first, then the specification).
+// are filled from the input (the record first, then the flow or filter).
 template <class Spec, class F>
 int addSpec(const In& in, Out& o, F fn) {
     QmiTlvRecord* tlv = o.val<QmiTlvRecord>();
