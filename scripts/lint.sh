@@ -32,7 +32,8 @@ check cppcheck cppcheck --enable=warning,performance,portability --error-exitcod
 # clang-tidy reads the flags of a clang build's compile_commands.json.
 tidy() {
   cmake -S . -B build/lint -DCMAKE_BUILD_TYPE=Debug -DCMAKE_EXPORT_COMPILE_COMMANDS=ON \
-    -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ -DZOVQMI_BUILD_TESTS=OFF >/dev/null &&
+    -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ -DZOVQMI_BUILD_TESTS=OFF \
+    -DZOVQMI_BUILD_TOOLS=OFF -DZOVQMI_BUILD_BENCH=OFF >/dev/null &&
     printf '%s\n' "${sources[@]}" | xargs -P "$jobs" -n 4 clang-tidy -p build/lint --quiet
 }
 check clang-tidy tidy
