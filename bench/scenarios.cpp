@@ -212,26 +212,26 @@ FlowSpecification gReqFlows[2];
 FilterSpecification gReqFilters[2];
 
 int qosRequestBuild() {
-    QoSSpec spec;
-    spec.flowCount = 2;
-    spec.filterCount = 2;
-    spec.flows = gReqFlows;
-    spec.filters = gReqFilters;
+    QoSSpec qosSpec;
+    qosSpec.flowCount = 2;
+    qosSpec.filterCount = 2;
+    qosSpec.flows = gReqFlows;
+    qosSpec.filters = gReqFilters;
     zovQMIQOSRequestQoSReq(gBuf, sizeof gBuf);
-    check(zovQMIQOSRequestQoSReqAddQoSSpec(gBuf, sizeof gBuf, 1, &spec));
+    check(zovQMIQOSRequestQoSReqAddQoSSpec(gBuf, sizeof gBuf, 1, &qosSpec));
     return check(zovQMIQOSRequestQoSReqAddQoSRequestOpcode(gBuf, sizeof gBuf, 1));
 }
 
 int qosSpecErrorParse() {
-    QoSSpec spec;
-    spec.flowCount = 0;
-    spec.filterCount = 0;
-    spec.flows = gFlows;
-    spec.filters = gFilters;
+    QoSSpec qosSpec;
+    qosSpec.flowCount = 0;
+    qosSpec.filterCount = 0;
+    qosSpec.flows = gFlows;
+    qosSpec.filters = gFilters;
     uint8_t count, index;
     uint32_t ids[4];
     check(zovQMIQOSRequestQoSResp(gQosError.data(), len(gQosError), &gResult, &count, ids));
-    check(zovQMIQOSRequestQoSRespGetQoSSpecError(gQosError.data(), len(gQosError), &index, &spec));
+    check(zovQMIQOSRequestQoSRespGetQoSSpecError(gQosError.data(), len(gQosError), &index, &qosSpec));
     return len(gQosError);
 }
 
@@ -327,7 +327,7 @@ void setupScenarios() {
     gReqFilters[0] = fullFilter(0x13), gReqFilters[1] = fullFilter(0x14);
     {
         // The library's own encoding of one flow and one filter: item 0x10
-        // of the QoS-spec item, whose flow and filter items carry the parameters.
+        // of the QoS item 0x10, whose flow and filter items carry the parameters.
         QoSSpec one;
         one.flowCount = 1, one.filterCount = 1, one.flows = gReqFlows, one.filters = gReqFilters;
         uint8_t b[1024];
@@ -335,14 +335,14 @@ void setupScenarios() {
         n = check(zovQMIQOSRequestQoSReqAddQoSSpec(b, sizeof b, 0, &one));
         // Request: header 7, item 0x10 header 3, its index item 4, then the
         // flow item 0x11 {0x10 {params}} and the filter item 0x13 {0x10 {params}}.
-        Bytes spec(b + 7 + 3, b + n);
+        Bytes qosSpec(b + 7 + 3, b + n);
         size_t off = 4;  // behind the index item
-        auto item = [&](size_t at) { return size_t(spec[at + 1] | spec[at + 2] << 8); };
+        auto item = [&](size_t at) { return size_t(qosSpec[at + 1] | qosSpec[at + 2] << 8); };
         size_t flowLen = item(off);
-        Bytes flowParams(spec.begin() + long(off + 6), spec.begin() + long(off + 3 + flowLen));
+        Bytes flowParams(qosSpec.begin() + long(off + 6), qosSpec.begin() + long(off + 3 + flowLen));
         off += 3 + flowLen;
         size_t filterLen = item(off);
-        Bytes filterParams(spec.begin() + long(off + 6), spec.begin() + long(off + 3 + filterLen));
+        Bytes filterParams(qosSpec.begin() + long(off + 6), qosSpec.begin() + long(off + 3 + filterLen));
         auto entry = [](uint8_t type, uint8_t index, const Bytes& params) {
             return tlv(type, tlv(0x10, cat({tlv(0x10, {index}), tlv(0x11, params)})));
         };

@@ -128,7 +128,7 @@ sub short {
     return "$l($frame{$f})";
 }
 
-my @exports = grep { /^(zovQMI|zovPrintHex$|fn(RequestAdd|ResponseParse)(Flow|Filter)Specification$)/ } keys %frame;
+my @exports = grep { /^(zovQMI|zovPrintHex$|fn(RequestAdd|ResponseParse)(Flow|Filter)\w+$)/ } keys %frame;
 walk($_) for @exports;
 @exports = $sort eq 'name' ? sort @exports
          : sort { $depth{$b} <=> $depth{$a} || $largest{$b} <=> $largest{$a} || $a cmp $b } @exports;

@@ -1318,10 +1318,10 @@ extern "C" int __wrap_zovQMIQOSModifyQoSResp(const uint8_t* msg, int len, QmiRes
     zovFuzzTap(266, msg, len, 0);
     return __real_zovQMIQOSModifyQoSResp(msg, len, result);
 }
-extern "C" int __real_zovQMIQOSModifyQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* spec);
-extern "C" int __wrap_zovQMIQOSModifyQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* spec) {
+extern "C" int __real_zovQMIQOSModifyQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* qosSpec);
+extern "C" int __wrap_zovQMIQOSModifyQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* qosSpec) {
     zovFuzzTap(267, msg, len, 0);
-    return __real_zovQMIQOSModifyQoSRespGetQoSSpecError(msg, len, index, spec);
+    return __real_zovQMIQOSModifyQoSRespGetQoSSpecError(msg, len, index, qosSpec);
 }
 extern "C" int __real_zovQMIQOSNetworkStatusIND(const uint8_t* msg, int len, uint8_t* status);
 extern "C" int __wrap_zovQMIQOSNetworkStatusIND(const uint8_t* msg, int len, uint8_t* status) {
@@ -1343,10 +1343,10 @@ extern "C" int __wrap_zovQMIQOSRequestQoSResp(const uint8_t* msg, int len, QmiRe
     zovFuzzTap(271, msg, len, 0);
     return __real_zovQMIQOSRequestQoSResp(msg, len, result, count, identifiers);
 }
-extern "C" int __real_zovQMIQOSRequestQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* spec);
-extern "C" int __wrap_zovQMIQOSRequestQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* spec) {
+extern "C" int __real_zovQMIQOSRequestQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* qosSpec);
+extern "C" int __wrap_zovQMIQOSRequestQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* qosSpec) {
     zovFuzzTap(272, msg, len, 0);
-    return __real_zovQMIQOSRequestQoSRespGetQoSSpecError(msg, len, index, spec);
+    return __real_zovQMIQOSRequestQoSRespGetQoSSpecError(msg, len, index, qosSpec);
 }
 extern "C" int __real_zovQMIQOSResetResp(const uint8_t* msg, int len, QmiResult* result);
 extern "C" int __wrap_zovQMIQOSResetResp(const uint8_t* msg, int len, QmiResult* result) {
@@ -1368,10 +1368,10 @@ extern "C" int __wrap_zovQMIQOSSetEventReportINDGetNetworkSupportedQoSProfiles(c
     zovFuzzTap(276, msg, len, 0);
     return __real_zovQMIQOSSetEventReportINDGetNetworkSupportedQoSProfiles(msg, len, list);
 }
-extern "C" int __real_zovQMIQOSSetEventReportINDGetQoSFlowInfo(const uint8_t* msg, int len, QoSFlowState* state, QoSSpec* spec);
-extern "C" int __wrap_zovQMIQOSSetEventReportINDGetQoSFlowInfo(const uint8_t* msg, int len, QoSFlowState* state, QoSSpec* spec) {
+extern "C" int __real_zovQMIQOSSetEventReportINDGetQoSFlowInfo(const uint8_t* msg, int len, QoSFlowState* state, QoSSpec* qosSpec);
+extern "C" int __wrap_zovQMIQOSSetEventReportINDGetQoSFlowInfo(const uint8_t* msg, int len, QoSFlowState* state, QoSSpec* qosSpec) {
     zovFuzzTap(277, msg, len, 0);
-    return __real_zovQMIQOSSetEventReportINDGetQoSFlowInfo(msg, len, state, spec);
+    return __real_zovQMIQOSSetEventReportINDGetQoSFlowInfo(msg, len, state, qosSpec);
 }
 extern "C" int __real_zovQMIQOSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
 extern "C" int __wrap_zovQMIQOSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result) {

@@ -227,17 +227,17 @@ int fnResponseParseFilterSpecification(const In& in, Out& o) {
 }
 // The builders take a record under construction and a flow or filter: both
 // are filled from the input (the record first, then the flow or filter).
-template <class Spec, class F>
+template <class Rec, class F>
 int addSpec(const In& in, Out& o, F fn) {
     QmiTlvRecord* tlv = o.val<QmiTlvRecord>();
-    Spec* spec = o.val<Spec>();
+    Rec* element = o.val<Rec>();
     size_t n = static_cast<size_t>(in.len);
     size_t a = n < sizeof *tlv ? n : sizeof *tlv;
     std::memcpy(tlv, in.msg, a);
-    size_t b = n - a < sizeof *spec ? n - a : sizeof *spec;
-    std::memcpy(spec, in.msg + a, b);
+    size_t b = n - a < sizeof *element ? n - a : sizeof *element;
+    std::memcpy(element, in.msg + a, b);
     o.snapshot();
-    return fn(tlv, spec);
+    return fn(tlv, element);
 }
 int fnRequestAddFlowSpecification(const In& in, Out& o) {
     return addSpec<FlowSpecification>(in, o, ::fnRequestAddFlowSpecification);

@@ -1700,10 +1700,10 @@ ZOVQMI_API int zovQMIPBMHiddenRecordStatusIND(const uint8_t* msg, int len, uint8
 
 /* ---------------------------------------------------------------- QOS -- */
 
-/* QOS: one traffic flow of a QoS spec.  Natural alignment (84 bytes); arrays
+/* QOS: one traffic flow of a QoSSpec.  Natural alignment (84 bytes); arrays
  * of it are stepped by its size.  Fields are native values.  `type` is the
  * type of the item that wraps the flow in its container (0x11 or 0x12);
- * `index` is set only when reading a QoS-spec error list.  Every parameter
+ * `index` is set only when reading a QoS error list.  Every parameter
  * item has a presence byte (nonzero: present) and its value fields, named
  * after the item's type. */
 typedef struct FlowSpecification {
@@ -1745,7 +1745,7 @@ typedef struct FlowSpecification {
     uint8_t value1E;
 } FlowSpecification;
 
-/* QOS: one packet filter of a QoS spec.  Natural alignment (112 bytes), as
+/* QOS: one packet filter of a QoSSpec.  Natural alignment (112 bytes), as
  * for flows; `type` is 0x13 or 0x14.  A filter has no item 0x18, 0x1F or
  * 0x20. */
 typedef struct FilterSpecification {
@@ -1823,8 +1823,8 @@ typedef struct QoSProfileList {
 
 #pragma pack(pop)
 
-/* Flow and filter specification codec: append one flow or filter to a QoS-spec
- * record of type 0x10, or read one back from a received item. */
+/* Flow and filter codec: append one flow or filter to a QoS
+ * item record of type 0x10, or read one back from a received item. */
 ZOVQMI_API int fnRequestAddFlowSpecification(QmiTlvRecord* tlv, const FlowSpecification* flow);
 ZOVQMI_API int fnRequestAddFilterSpecification(QmiTlvRecord* tlv, const FilterSpecification* filter);
 ZOVQMI_API int fnResponseParseFlowSpecification(const uint8_t* item, int length, FlowSpecification* flow);
@@ -1840,16 +1840,16 @@ ZOVQMI_API int zovQMIQOSSetEventReportReqAddNetworkSupportedQoSProfileChange(uin
 ZOVQMI_API int zovQMIQOSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
 ZOVQMI_API int zovQMIQOSSetEventReportIND(const uint8_t* msg, int len);
 ZOVQMI_API int zovQMIQOSSetEventReportINDGetQoSFlowInfo(const uint8_t* msg, int len, QoSFlowState* state,
-                                                       QoSSpec* spec);
+                                                       QoSSpec* qosSpec);
 ZOVQMI_API int zovQMIQOSSetEventReportINDGetNetworkSupportedQoSProfiles(const uint8_t* msg, int len,
                                                                        QoSProfileList* list);
 
 ZOVQMI_API int zovQMIQOSRequestQoSReq(uint8_t* buf, int bufsize);
-ZOVQMI_API int zovQMIQOSRequestQoSReqAddQoSSpec(uint8_t* buf, int bufsize, uint8_t index, const QoSSpec* spec);
+ZOVQMI_API int zovQMIQOSRequestQoSReqAddQoSSpec(uint8_t* buf, int bufsize, uint8_t index, const QoSSpec* qosSpec);
 ZOVQMI_API int zovQMIQOSRequestQoSReqAddQoSRequestOpcode(uint8_t* buf, int bufsize, uint8_t opcode);
 ZOVQMI_API int zovQMIQOSRequestQoSResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
                                        uint32_t* identifiers);
-ZOVQMI_API int zovQMIQOSRequestQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* spec);
+ZOVQMI_API int zovQMIQOSRequestQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* qosSpec);
 
 ZOVQMI_API int zovQMIQOSReleaseQoSReq(uint8_t* buf, int bufsize, uint8_t count, const uint32_t* identifiers);
 ZOVQMI_API int zovQMIQOSReleaseQoSResp(const uint8_t* msg, int len, QmiResult* result);
@@ -1860,10 +1860,10 @@ ZOVQMI_API int zovQMIQOSResumeQoSResp(const uint8_t* msg, int len, QmiResult* re
 
 ZOVQMI_API int zovQMIQOSModifyQoSReq(uint8_t* buf, int bufsize);
 ZOVQMI_API int zovQMIQOSModifyQoSReqAddQoSSpec(uint8_t* buf, int bufsize, uint32_t identifier, uint8_t index,
-                                               const QoSSpec* spec);
+                                               const QoSSpec* qosSpec);
 ZOVQMI_API int zovQMIQOSModifyQoSReqAddPrimaryQoSModifyRequest(uint8_t* buf, int bufsize, uint8_t primary);
 ZOVQMI_API int zovQMIQOSModifyQoSResp(const uint8_t* msg, int len, QmiResult* result);
-ZOVQMI_API int zovQMIQOSModifyQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* spec);
+ZOVQMI_API int zovQMIQOSModifyQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* qosSpec);
 
 ZOVQMI_API int zovQMIQOSGetGrantedQoSReq(uint8_t* buf, int bufsize, uint32_t identifier);
 ZOVQMI_API int zovQMIQOSGetGrantedQoSReqAddPrimaryGrantedQoSRequest(uint8_t* buf, int bufsize, uint8_t primary);

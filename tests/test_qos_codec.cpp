@@ -1,4 +1,4 @@
-// QOS: the flow and filter codec and the QoS-spec containers around it.
+// QOS: the flow and filter codec and the QoS containers around it.
 #include <cstddef>
 
 #include "test_qos_fixtures.h"
@@ -50,7 +50,7 @@ void st(QmiTlvRecord& r, uint16_t n) {
     uint8_t* p = reinterpret_cast<uint8_t*>(&r);
     p[1] = uint8_t(n), p[2] = uint8_t(n >> 8);
 }
-// A QoS-spec record holding `used` value bytes of 0x5A.
+// A QoS item record holding `used` value bytes of 0x5A.
 QmiTlvRecord specRecord(uint16_t used = 0, uint8_t type = 0x10) {
     QmiTlvRecord r;
     std::memset(&r, 0x5A, sizeof r);
@@ -290,12 +290,12 @@ TEST(QosCodecParse, StepWrappingPastSixteenBitsIsMalformedInsteadOfLooping) {
     EXPECT_TRUE(same(f, zeroed<FlowSpecification>()));
 }
 
-// --------------------------------------------------- QoS-spec builders --
+// --------------------------------------------------- QoS item builders --
 
 TEST(QosSpecBuild, RequestFormWithoutFlowsOrFiltersHoldsOnlyTheIndex) {
     Bytes buf = buffer(32);
     ASSERT_EQ(zovQMIQOSRequestQoSReq(buf.data(), 32), 7);
-    QoSSpec s = spec(0, nullptr, 0, nullptr);
+    QoSSpec s = qosSpec(0, nullptr, 0, nullptr);
     EXPECT_EQ(zovQMIQOSRequestQoSReqAddQoSSpec(buf.data(), 32, 0x03, &s), 7 + 7);
     EXPECT_EQ(head(buf, 15), cat({reqHeader(0x0020, 7), tlv(0x10, tlv(0x10, {0x03})), {0xEE}}));
 }
@@ -303,7 +303,7 @@ TEST(QosSpecBuild, RequestFormWithoutFlowsOrFiltersHoldsOnlyTheIndex) {
 TEST(QosSpecBuild, ModifyFormWithoutFlowsOrFiltersHoldsIdentifierAndIndex) {
     Bytes buf = buffer(32);
     ASSERT_EQ(zovQMIQOSModifyQoSReq(buf.data(), 32), 7);
-    QoSSpec s = spec(0, nullptr, 0, nullptr);
+    QoSSpec s = qosSpec(0, nullptr, 0, nullptr);
     EXPECT_EQ(zovQMIQOSModifyQoSReqAddQoSSpec(buf.data(), 32, 0x11223344, 0x02, &s), 7 + 14);
     EXPECT_EQ(head(buf, 22),
               cat({reqHeader(0x0024, 14), tlv(0x10, cat({tlv(0x01, le32(0x11223344)), tlv(0x10, {0x02})})), {0xEE}}));
@@ -314,7 +314,7 @@ TEST(QosSpecBuild, FlowsThenFiltersEachUnderTheirOwnWrapperType) {
     flows[1].type = 0x12;
     flows[1].present19 = 1, flows[1].value19 = 0x09;
     FilterSpecification filters[1] = {fullFilter(0x14)};
-    QoSSpec s = spec(2, flows, 1, filters);
+    QoSSpec s = qosSpec(2, flows, 1, filters);
     Bytes buf = buffer(400);
     ASSERT_EQ(zovQMIQOSRequestQoSReq(buf.data(), 400), 7);
     Bytes value = cat({tlv(0x10, {0x01}), wrapped(0x11, fullFlowParams()), wrapped(0x12, tlv(0x19, {0x09})),
@@ -337,9 +337,9 @@ TEST(QosSpecBuild, NullBufferSpecOrArrayWithACountIsMinusOneAndWritesNothing) {
     Bytes buf = buffer(64);
     ASSERT_EQ(zovQMIQOSRequestQoSReq(buf.data(), 64), 7);
     Bytes before = buf;
-    QoSSpec ok = spec(1, &flow, 1, &filter);
-    QoSSpec noFlows = spec(1, nullptr, 0, &filter);
-    QoSSpec noFilters = spec(0, &flow, 1, nullptr);
+    QoSSpec ok = qosSpec(1, &flow, 1, &filter);
+    QoSSpec noFlows = qosSpec(1, nullptr, 0, &filter);
+    QoSSpec noFilters = qosSpec(0, &flow, 1, nullptr);
     EXPECT_EQ(zovQMIQOSRequestQoSReqAddQoSSpec(nullptr, 64, 0, &ok), -1);
     EXPECT_EQ(zovQMIQOSRequestQoSReqAddQoSSpec(buf.data(), 64, 0, nullptr), -1);
     EXPECT_EQ(zovQMIQOSRequestQoSReqAddQoSSpec(buf.data(), 64, 0, &noFlows), -1);
@@ -350,7 +350,7 @@ TEST(QosSpecBuild, NullBufferSpecOrArrayWithACountIsMinusOneAndWritesNothing) {
     EXPECT_EQ(zovQMIQOSModifyQoSReqAddQoSSpec(buf.data(), 64, 1, 0, &noFilters), -1);
     EXPECT_EQ(buf, before);
     // Null arrays with zero counts are fine.
-    QoSSpec none = spec(0, nullptr, 0, nullptr);
+    QoSSpec none = qosSpec(0, nullptr, 0, nullptr);
     EXPECT_EQ(zovQMIQOSRequestQoSReqAddQoSSpec(buf.data(), 64, 0, &none), 14);
 }
 
@@ -362,7 +362,7 @@ TEST(QosSpecBuild, SpecOverTheRecordValueIsMalformedAndTheMessageKept) {
     ASSERT_EQ(zovQMIQOSRequestQoSReq(buf.data(), 2048), 7);
     Bytes before = buf;
     // 4 + 10 x 100 + 132 value bytes.
-    QoSSpec big = spec(10, flows, 1, &filter);
+    QoSSpec big = qosSpec(10, flows, 1, &filter);
     EXPECT_EQ(zovQMIQOSRequestQoSReqAddQoSSpec(buf.data(), 2048, 0, &big), ZOVQMI_ERR_MALFORMED);
     EXPECT_EQ(buf, before);
     Bytes mbuf = buffer(2048);
@@ -375,7 +375,7 @@ TEST(QosSpecBuild, SpecOverTheRecordValueIsMalformedAndTheMessageKept) {
     for (int i = 0; i < 10; ++i) eleven[i] = flows[i];
     eleven[10] = zeroed<FlowSpecification>();
     eleven[10].type = 0x12, eleven[10].present16 = 1, eleven[10].present17 = 1;
-    QoSSpec exact = spec(11, eleven, 0, nullptr);
+    QoSSpec exact = qosSpec(11, eleven, 0, nullptr);
     ASSERT_EQ(zovQMIQOSRequestQoSReq(buf.data(), 2048), 7);
     EXPECT_EQ(zovQMIQOSRequestQoSReqAddQoSSpec(buf.data(), 2048, 0, &exact), 7 + 3 + 1024);
     EXPECT_EQ(rd16(buf.data() + 8), 1024);
@@ -385,7 +385,7 @@ TEST(QosSpecBuild, SpecOverTheRecordValueIsMalformedAndTheMessageKept) {
 }
 
 TEST(QosSpecBuild, SpecThatDoesNotFitTheBufferIsMinusTwoAndTheMessageKept) {
-    QoSSpec s = spec(0, nullptr, 0, nullptr);
+    QoSSpec s = qosSpec(0, nullptr, 0, nullptr);
     Bytes buf = buffer(32);
     ASSERT_EQ(zovQMIQOSRequestQoSReq(buf.data(), 32), 7);
     Bytes before = buf;
@@ -395,7 +395,7 @@ TEST(QosSpecBuild, SpecThatDoesNotFitTheBufferIsMinusTwoAndTheMessageKept) {
     EXPECT_EQ(zovQMIQOSRequestQoSReqAddQoSSpec(buf.data(), 14, 0, &s), 14);
 }
 
-// ------------------------------------------------- QoS-spec error list --
+// ------------------------------------------------- QoS error list --
 
 Bytes errorFlow(uint8_t type, uint8_t index, const Bytes& params) {
     return tlv(type, tlv(0x10, cat({tlv(0x10, {index}), tlv(0x11, params)})));
@@ -408,7 +408,7 @@ TEST(QosSpecError, ReadsIndexFlowsAndFiltersWithTheirWrapperTypeAndIndex) {
                                                    tlv(0x55, {1, 2, 3}), errorFlow(0x11, 0x01, tlv(0x1E, {0x0E}))}))});
     FlowSpecification flows[2] = {zeroed<FlowSpecification>(), zeroed<FlowSpecification>()};
     FilterSpecification filters[1] = {zeroed<FilterSpecification>()};
-    QoSSpec s = spec(0xEE, flows, 0xEE, filters);
+    QoSSpec s = qosSpec(0xEE, flows, 0xEE, filters);
     uint8_t index = 0xEE;
     int r = zovQMIQOSRequestQoSRespGetQoSSpecError(msg.data(), int(msg.size()), &index, &s);
     EXPECT_EQ(r, int(msg.size()) - 7 - 7 - 4 - 3);
@@ -435,7 +435,7 @@ TEST(QosSpecError, CountsOnlyWrappersWhoseNested10ItemIsNonEmpty) {
                                                        }))});
     FlowSpecification flows[2] = {zeroed<FlowSpecification>(), zeroed<FlowSpecification>()};
     FilterSpecification filter = zeroed<FilterSpecification>();
-    QoSSpec s = spec(0xEE, flows, 0xEE, &filter);
+    QoSSpec s = qosSpec(0xEE, flows, 0xEE, &filter);
     uint8_t index = 0xEE;
     EXPECT_GT(zovQMIQOSRequestQoSRespGetQoSSpecError(msg.data(), int(msg.size()), &index, &s), 0);
     EXPECT_EQ(index, 0xEE);  // no item 0x10 at the top
@@ -450,7 +450,7 @@ TEST(QosSpecError, CountsOnlyWrappersWhoseNested10ItemIsNonEmpty) {
 TEST(QosSpecError, NullArraysStillCount) {
     Bytes msg = svcMessage(0x0020, {result(), tlv(0x10, cat({errorFlow(0x11, 1, {}), errorFlow(0x12, 2, {}),
                                                                errorFlow(0x14, 3, {})}))});
-    QoSSpec s = spec(0xEE, nullptr, 0xEE, nullptr);
+    QoSSpec s = qosSpec(0xEE, nullptr, 0xEE, nullptr);
     uint8_t index = 0;
     EXPECT_GT(zovQMIQOSRequestQoSRespGetQoSSpecError(msg.data(), int(msg.size()), &index, &s), 0);
     EXPECT_EQ(s.flowCount, 2);
@@ -461,7 +461,7 @@ TEST(QosSpecError, CountIsASingleByteThatWraps) {
     Bytes value;
     for (int i = 0; i < 257; ++i) value = cat({value, tlv(0x11, tlv(0x10, tlv(0x10, {uint8_t(i)})))});
     Bytes msg = svcMessage(0x0020, {result(), tlv(0x10, value)});
-    QoSSpec s = spec(0xEE, nullptr, 0xEE, nullptr);
+    QoSSpec s = qosSpec(0xEE, nullptr, 0xEE, nullptr);
     uint8_t index = 0;
     EXPECT_EQ(zovQMIQOSRequestQoSRespGetQoSSpecError(msg.data(), int(msg.size()), &index, &s), int(value.size()));
     EXPECT_EQ(s.flowCount, 1);
@@ -472,7 +472,7 @@ TEST(QosSpecError, ModifyReadsTheSameListFromMessage24) {
     Bytes item = tlv(0x10, cat({tlv(0x10, {0x09}), errorFlow(0x14, 0x05, tlv(0x21, le32(0x01020304)))}));
     Bytes msg = svcMessage(0x0024, {result(), item});
     FilterSpecification filter = zeroed<FilterSpecification>();
-    QoSSpec s = spec(0xEE, nullptr, 0xEE, &filter);
+    QoSSpec s = qosSpec(0xEE, nullptr, 0xEE, &filter);
     uint8_t index = 0;
     EXPECT_EQ(zovQMIQOSModifyQoSRespGetQoSSpecError(msg.data(), int(msg.size()), &index, &s), int(item.size()) - 3);
     EXPECT_EQ(index, 0x09);
@@ -486,7 +486,7 @@ TEST(QosSpecError, ModifyReadsTheSameListFromMessage24) {
 }
 
 TEST(QosSpecError, ReturnCodes) {
-    QoSSpec s = spec(0, nullptr, 0, nullptr);
+    QoSSpec s = qosSpec(0, nullptr, 0, nullptr);
     uint8_t index = 0;
     Bytes msg = svcMessage(0x0020, {result()});
     EXPECT_EQ(zovQMIQOSRequestQoSRespGetQoSSpecError(nullptr, int(msg.size()), &index, &s), -1);
@@ -505,7 +505,7 @@ TEST(QosSpecError, WrapperRunningPastTheBufferIsMalformedAndWritesNothing) {
                                                                 errorFlow(0x12, 2, tlv(0x13, fill(12, 1)))}))});
     Bytes msg = head(full, full.size() - 6);
     FlowSpecification flows[2] = {zeroed<FlowSpecification>(), zeroed<FlowSpecification>()};
-    QoSSpec s = spec(0xEE, flows, 0xEE, nullptr);
+    QoSSpec s = qosSpec(0xEE, flows, 0xEE, nullptr);
     uint8_t index = 0xEE;
     EXPECT_EQ(zovQMIQOSRequestQoSRespGetQoSSpecError(msg.data(), int(msg.size()), &index, &s), ZOVQMI_ERR_MALFORMED);
     EXPECT_EQ(index, 0xEE);
@@ -525,7 +525,7 @@ TEST(QosFlowInfo, ReadsStateFlowsAndFilters) {
     std::memset(&state, 0xEE, sizeof state);
     FlowSpecification flows[2] = {zeroed<FlowSpecification>(), zeroed<FlowSpecification>()};
     FilterSpecification filter = zeroed<FilterSpecification>();
-    QoSSpec s = spec(0xEE, flows, 0xEE, &filter);
+    QoSSpec s = qosSpec(0xEE, flows, 0xEE, &filter);
     EXPECT_EQ(zovQMIQOSSetEventReportINDGetQoSFlowInfo(msg.data(), int(msg.size()), &state, &s),
               int(item.size()) - 3);
     const uint8_t* st = reinterpret_cast<const uint8_t*>(&state);
@@ -550,7 +550,7 @@ TEST(QosFlowInfo, CountsEveryWrapperEvenWithNullArraysOrEmptyItems) {
                                                      tlv(0x14, {1, 2})}))});
     QoSFlowState state;
     std::memset(&state, 0xEE, sizeof state);
-    QoSSpec s = spec(0xEE, nullptr, 0xEE, nullptr);
+    QoSSpec s = qosSpec(0xEE, nullptr, 0xEE, nullptr);
     EXPECT_GT(zovQMIQOSSetEventReportINDGetQoSFlowInfo(msg.data(), int(msg.size()), &state, &s), 0);
     EXPECT_EQ(s.flowCount, 2);
     EXPECT_EQ(s.filterCount, 2);
@@ -561,7 +561,7 @@ TEST(QosFlowInfo, EmptyWrapperWithAnArrayIsCountedAndOnlyTyped) {
     Bytes msg = svcMessage(0x0001, {tlv(0x10, cat({tlv(0x11, {}), wrapped(0x12, tlv(0x10, {0x01}))}))});
     QoSFlowState state;
     FlowSpecification flows[2] = {zeroed<FlowSpecification>(), zeroed<FlowSpecification>()};
-    QoSSpec s = spec(0, flows, 0, nullptr);
+    QoSSpec s = qosSpec(0, flows, 0, nullptr);
     EXPECT_GT(zovQMIQOSSetEventReportINDGetQoSFlowInfo(msg.data(), int(msg.size()), &state, &s), 0);
     EXPECT_EQ(s.flowCount, 2);
     FlowSpecification f0 = zeroed<FlowSpecification>();
@@ -577,7 +577,7 @@ TEST(QosFlowInfo, CountsAreSingleBytesThatWrap) {
     for (int i = 0; i < 258; ++i) value = cat({value, tlv(0x13, {})});
     Bytes msg = svcMessage(0x0001, {tlv(0x10, value)});
     QoSFlowState state;
-    QoSSpec s = spec(0xEE, nullptr, 0xEE, nullptr);
+    QoSSpec s = qosSpec(0xEE, nullptr, 0xEE, nullptr);
     EXPECT_EQ(zovQMIQOSSetEventReportINDGetQoSFlowInfo(msg.data(), int(msg.size()), &state, &s), int(value.size()));
     EXPECT_EQ(s.flowCount, 0);
     EXPECT_EQ(s.filterCount, 2);
@@ -585,7 +585,7 @@ TEST(QosFlowInfo, CountsAreSingleBytesThatWrap) {
 
 TEST(QosFlowInfo, ReturnCodes) {
     QoSFlowState state;
-    QoSSpec s = spec(0, nullptr, 0, nullptr);
+    QoSSpec s = qosSpec(0, nullptr, 0, nullptr);
     Bytes msg = svcMessage(0x0001, {tlv(0x11, {})});
     EXPECT_EQ(zovQMIQOSSetEventReportINDGetQoSFlowInfo(nullptr, int(msg.size()), &state, &s), -1);
     EXPECT_EQ(zovQMIQOSSetEventReportINDGetQoSFlowInfo(msg.data(), int(msg.size()), nullptr, &s), -1);
@@ -603,7 +603,7 @@ TEST(QosFlowInfo, ParameterCutShortByTheBufferIsMalformedAndWritesNothing) {
     QoSFlowState state;
     std::memset(&state, 0xEE, sizeof state);
     FlowSpecification flow = zeroed<FlowSpecification>();
-    QoSSpec s = spec(0xEE, &flow, 0xEE, nullptr);
+    QoSSpec s = qosSpec(0xEE, &flow, 0xEE, nullptr);
     EXPECT_EQ(zovQMIQOSSetEventReportINDGetQoSFlowInfo(msg.data(), int(msg.size()), &state, &s), ZOVQMI_ERR_MALFORMED);
     EXPECT_EQ(rd32(&state), 0xEEEEEEEEu);
     EXPECT_EQ(s.flowCount, 0xEE);
@@ -616,7 +616,7 @@ TEST(QosFlowInfo, ParametersMayReadIntoTheFollowingBytesOfTheBuffer) {
     Bytes msg = svcMessage(0x0001, {tlv(0x10, wrapped(0x11, tlv(0x14, {0x01}))), tlv(0x20, {0x02, 0x03})});
     QoSFlowState state;
     FlowSpecification flow = zeroed<FlowSpecification>();
-    QoSSpec s = spec(0, &flow, 0, nullptr);
+    QoSSpec s = qosSpec(0, &flow, 0, nullptr);
     EXPECT_EQ(zovQMIQOSSetEventReportINDGetQoSFlowInfo(msg.data(), int(msg.size()), &state, &s), 10);
     EXPECT_EQ(flow.present14, 1);
     EXPECT_EQ(flow.value14, 0x00022001u);

@@ -111,7 +111,7 @@ inline FilterSpecification parsedFilter() {
 }
 
 // A QoSSpec pointing at caller arrays, counts preset.
-inline QoSSpec spec(uint8_t flowCount, FlowSpecification* flows, uint8_t filterCount, FilterSpecification* filters) {
+inline QoSSpec qosSpec(uint8_t flowCount, FlowSpecification* flows, uint8_t filterCount, FilterSpecification* filters) {
     QoSSpec s;
     s.flowCount = flowCount;
     s.filterCount = filterCount;

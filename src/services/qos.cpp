@@ -2,7 +2,7 @@
 // (request, modify, release, suspend, resume), what was granted, their status
 // and the network-supported QoS profiles.
 //
-// A QoS spec travels as one item 0x10 whose value nests flows and filters
+// A QoSSpec travels as one item 0x10 whose value nests flows and filters
 // two levels deep: a wrapper item (0x11/0x12 for a flow, 0x13/0x14 for a
 // filter) holding an item 0x10 whose value is the list of parameter items.
 // The flow and filter codec below writes and reads those nested lists; the
@@ -109,7 +109,7 @@ void wrapped(Emit& e, const S& s) {
     e.patch16(at + 4, n);
 }
 
-// Appends one flow or filter to the value of a QoS-spec record.  One that
+// Appends one flow or filter to the value of a QoS item record.  One that
 // would run past the record's value area is refused and the record is left
 // as it was.
 template <class S>
@@ -127,13 +127,13 @@ int addToRecord(QmiTlvRecord* tlv, const S* s) {
     return static_cast<int>(e.size());
 }
 
-// The QoS-spec item 0x10 of RequestQoS (index item only) and ModifyQoS
+// The QoS item 0x10 0x10 of RequestQoS (index item only) and ModifyQoS
 // (identifier item 0x01 first), followed by every flow then every filter.
 // Built straight into the caller's buffer; its value is limited to the
 // 1024 bytes of a QmiTlvRecord.
-int addQoSSpec(uint8_t* buf, int bufsize, const uint32_t* identifier, uint8_t index, const QoSSpec* spec) {
-    if (!buf || !spec) return kErrArg;
-    const uint8_t* sp = reinterpret_cast<const uint8_t*>(spec);
+int addQoSSpec(uint8_t* buf, int bufsize, const uint32_t* identifier, uint8_t index, const QoSSpec* qosSpec) {
+    if (!buf || !qosSpec) return kErrArg;
+    const uint8_t* sp = reinterpret_cast<const uint8_t*>(qosSpec);
     const uint8_t flowCount = sp[offsetof(QoSSpec, flowCount)];
     const uint8_t filterCount = sp[offsetof(QoSSpec, filterCount)];
     const FlowSpecification* flows = ldPtr<const FlowSpecification>(sp + offsetof(QoSSpec, flows));
@@ -270,13 +270,13 @@ struct SpecArrays {
     FlowSpecification* flows;
     FilterSpecification* filters;
 };
-SpecArrays arrays(Dec::Record& spec) {
-    return {spec.ptr<FlowSpecification>(offsetof(QoSSpec, flows)),
-            spec.ptr<FilterSpecification>(offsetof(QoSSpec, filters))};
+SpecArrays arrays(Dec::Record& qosSpec) {
+    return {qosSpec.ptr<FlowSpecification>(offsetof(QoSSpec, flows)),
+            qosSpec.ptr<FilterSpecification>(offsetof(QoSSpec, filters))};
 }
-void putCounts(Dec::Record& spec, uint8_t flows, uint8_t filters) {
-    spec.put8(offsetof(QoSSpec, flowCount), flows);
-    spec.put8(offsetof(QoSSpec, filterCount), filters);
+void putCounts(Dec::Record& qosSpec, uint8_t flows, uint8_t filters) {
+    qosSpec.put8(offsetof(QoSSpec, flowCount), flows);
+    qosSpec.put8(offsetof(QoSSpec, filterCount), filters);
 }
 
 // Walks the items of a container value, calling f(type, value offset, length).
@@ -291,7 +291,7 @@ void eachItem(Dec& d, size_t from, size_t to, F&& f) {
     }
 }
 
-// One flow or filter of a QoS-spec error list, its wrapper value at v: counted
+// One flow or filter of a QoS error list, its wrapper value at v: counted
 // only when the value begins with a non-empty item 0x10.  That item holds the
 // element's index (sub-item 0x10) and its parameters (sub-item 0x11, read
 // whole by the flow or filter parser).  The count is a single byte and wraps.
@@ -311,10 +311,10 @@ void errorEntry(Dec& d, uint8_t t, size_t v, S* arr, uint8_t& count) {
     ++count;
 }
 
-// The QoS-spec error list (item 0x10 of the RequestQoS and ModifyQoS responses).
-int specError(const uint8_t* msg, int len, uint16_t id, uint8_t* index, QoSSpec* spec) {
-    return get(msg, len, id, 0x10, all(index, spec), [=](Dec& d) {
-        Dec::Record sp = d.record(spec);
+// The QoS error list (item 0x10 of the RequestQoS and ModifyQoS responses).
+int specError(const uint8_t* msg, int len, uint16_t id, uint8_t* index, QoSSpec* qosSpec) {
+    return get(msg, len, id, 0x10, all(index, qosSpec), [=](Dec& d) {
+        Dec::Record sp = d.record(qosSpec);
         const SpecArrays a = arrays(sp);
         uint8_t flows = 0, filters = 0;
         eachItem(d, 0, d.length, [&](uint8_t t, size_t v, uint16_t) {
@@ -358,7 +358,7 @@ size_t profileList(Dec& d, size_t off, Dec::Record& out, size_t at) {
 
 }  // namespace
 
-// Flow and filter specification codec
+// Flow and filter codec
 extern "C" int fnRequestAddFlowSpecification(QmiTlvRecord* tlv, const FlowSpecification* flow) {
     return addToRecord(tlv, flow);
 }
@@ -393,10 +393,10 @@ extern "C" int zovQMIQOSSetEventReportResp(const uint8_t* msg, int len, QmiResul
 extern "C" int zovQMIQOSSetEventReportIND(const uint8_t* msg, int len) { return ind(msg, len, 0x0001); }
 // Item 0x10: the flow state (item 0x10) and the flows and filters it lists.
 extern "C" int zovQMIQOSSetEventReportINDGetQoSFlowInfo(const uint8_t* msg, int len, QoSFlowState* state,
-                                                       QoSSpec* spec) {
-    return get(msg, len, 0x0001, 0x10, all(state, spec), [=](Dec& d) {
+                                                       QoSSpec* qosSpec) {
+    return get(msg, len, 0x0001, 0x10, all(state, qosSpec), [=](Dec& d) {
         Dec::Record st = d.record(state);
-        Dec::Record sp = d.record(spec);
+        Dec::Record sp = d.record(qosSpec);
         const SpecArrays a = arrays(sp);
         uint8_t flows = 0, filters = 0;
         eachItem(d, 0, d.length, [&](uint8_t t, size_t v, uint16_t m) {
@@ -423,8 +423,8 @@ extern "C" int zovQMIQOSSetEventReportINDGetNetworkSupportedQoSProfiles(const ui
 
 // RequestQoS 0x0020
 extern "C" int zovQMIQOSRequestQoSReq(uint8_t* buf, int bufsize) { return req(buf, bufsize, 0x0020); }
-extern "C" int zovQMIQOSRequestQoSReqAddQoSSpec(uint8_t* buf, int bufsize, uint8_t index, const QoSSpec* spec) {
-    return addQoSSpec(buf, bufsize, nullptr, index, spec);
+extern "C" int zovQMIQOSRequestQoSReqAddQoSSpec(uint8_t* buf, int bufsize, uint8_t index, const QoSSpec* qosSpec) {
+    return addQoSSpec(buf, bufsize, nullptr, index, qosSpec);
 }
 extern "C" int zovQMIQOSRequestQoSReqAddQoSRequestOpcode(uint8_t* buf, int bufsize, uint8_t opcode) {
     return add(buf, bufsize, 0x11, w8(opcode));
@@ -439,8 +439,8 @@ extern "C" int zovQMIQOSRequestQoSResp(const uint8_t* msg, int len, QmiResult* r
             for (uint8_t i = 0; i < n; ++i) d.put(&identifiers[i], d.le32(1 + 4u * i));
     });
 }
-extern "C" int zovQMIQOSRequestQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* spec) {
-    return specError(msg, len, 0x0020, index, spec);
+extern "C" int zovQMIQOSRequestQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* qosSpec) {
+    return specError(msg, len, 0x0020, index, qosSpec);
 }
 
 // ReleaseQoS 0x0021, SuspendQoS 0x0022, ResumeQoS 0x0023
@@ -466,8 +466,8 @@ extern "C" int zovQMIQOSResumeQoSResp(const uint8_t* msg, int len, QmiResult* re
 // ModifyQoS 0x0024
 extern "C" int zovQMIQOSModifyQoSReq(uint8_t* buf, int bufsize) { return req(buf, bufsize, 0x0024); }
 extern "C" int zovQMIQOSModifyQoSReqAddQoSSpec(uint8_t* buf, int bufsize, uint32_t identifier, uint8_t index,
-                                               const QoSSpec* spec) {
-    return addQoSSpec(buf, bufsize, &identifier, index, spec);
+                                               const QoSSpec* qosSpec) {
+    return addQoSSpec(buf, bufsize, &identifier, index, qosSpec);
 }
 extern "C" int zovQMIQOSModifyQoSReqAddPrimaryQoSModifyRequest(uint8_t* buf, int bufsize, uint8_t primary) {
     return add(buf, bufsize, 0x11, w8(primary));
@@ -475,8 +475,8 @@ extern "C" int zovQMIQOSModifyQoSReqAddPrimaryQoSModifyRequest(uint8_t* buf, int
 extern "C" int zovQMIQOSModifyQoSResp(const uint8_t* msg, int len, QmiResult* result) {
     return resp(msg, len, result, 0x0024);
 }
-extern "C" int zovQMIQOSModifyQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* spec) {
-    return specError(msg, len, 0x0024, index, spec);
+extern "C" int zovQMIQOSModifyQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* qosSpec) {
+    return specError(msg, len, 0x0024, index, qosSpec);
 }
 
 // GetGrantedQoS 0x0025
