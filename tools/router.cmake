@@ -1,0 +1,12 @@
+# What runs on the router (zovqmi-cli, zovqmi-connect and their session
+# layer) needs libc and libzovqmi alone: compiled without exceptions, RTTI or
+# thread-safe statics, linked with the C driver so that neither libstdc++ nor
+# libgcc_s becomes NEEDED.
+set(ZOVQMI_ROUTER_FLAGS -Wall -Wextra -fno-exceptions -fno-rtti -fno-threadsafe-statics
+    -fno-asynchronous-unwind-tables -ffunction-sections -fdata-sections)
+
+function(zovqmi_router_program target)
+  target_compile_options(${target} PRIVATE ${ZOVQMI_ROUTER_FLAGS})
+  set_target_properties(${target} PROPERTIES LINKER_LANGUAGE C)
+  target_link_options(${target} PRIVATE -static-libgcc -Wl,--as-needed -Wl,--gc-sections)
+endfunction()
