@@ -10,3 +10,12 @@ function(zovqmi_router_program target)
   set_target_properties(${target} PROPERTIES LINKER_LANGUAGE C)
   target_link_options(${target} PRIVATE -static-libgcc -Wl,--as-needed -Wl,--gc-sections)
 endfunction()
+
+# A test that the program's NEEDED entries are libc and libzovqmi alone
+# (and the dynamic loader's own libraries that libc may bring: none else).
+function(zovqmi_router_needed_test target)
+  if(ZOVQMI_BUILD_TESTS)
+    add_test(NAME ${target}_needs_libc_and_libzovqmi_only
+      COMMAND ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/check_needed.sh ${CMAKE_READELF} $<TARGET_FILE:${target}>)
+  endif()
+endfunction()
