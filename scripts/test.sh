@@ -34,6 +34,10 @@ for leg in "${legs[@]}"; do
       ;;
     mipsel|mips)
       command -v "$leg-linux-gnu-g++" >/dev/null || need+=("g++-$leg-linux-gnu")
+      # the host simulator they run against
+      [ -f /usr/include/fuse3/fuse.h ] || need+=(libfuse3-dev)
+      command -v fusermount3 >/dev/null || need+=(fuse3)
+      command -v pkg-config >/dev/null || need+=(pkg-config)
       command -v "qemu-$leg" >/dev/null || need+=(qemu-user)
       ;;
     asan|fuzz)
@@ -67,6 +71,14 @@ for leg in "${legs[@]}"; do
   echo "=== $leg ==="
   log=build/test-$leg.log
   start=$SECONDS
+  case $leg in
+    mipsel|mips)
+      # The cross legs run the router tools under qemu against the simulated
+      # modem built for this machine (build/host/sim/zovqmi-sim).
+      if [ ! -x build/host/sim/zovqmi-sim ]; then
+        cmake --preset host >/dev/null && cmake --build build/host --target zovqmi-sim -j2 >/dev/null
+      fi ;;
+  esac
   case $leg in
     fuzz) run=(./fuzz/run.sh) ;;
     lint) run=(./scripts/lint.sh) ;;

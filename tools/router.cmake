@@ -19,3 +19,10 @@ function(zovqmi_router_needed_test target)
       COMMAND ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/check_needed.sh ${CMAKE_READELF} $<TARGET_FILE:${target}>)
   endif()
 endfunction()
+
+# The cross legs run the router tools under qemu-user against the simulated
+# modem built for the build host (scripts/test.sh builds it first).
+if(CMAKE_CROSSCOMPILING)
+  set(ZOVQMI_HOST_SIM "${PROJECT_SOURCE_DIR}/build/host/sim/zovqmi-sim" CACHE FILEPATH
+      "zovqmi-sim built for the build host, for the cross legs' end-to-end tests")
+endif()
