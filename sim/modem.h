@@ -62,6 +62,8 @@ const char* errorName(uint16_t code);
 
 struct Options {
     std::string pin1 = "1234";
+    // PIN1 protection: enabled (and not verified) at power-up, or disabled.
+    bool pin1Enabled = true;
     std::string puk1 = "12345678";
     // An APN that needs credentials, and the credentials it accepts.
     std::string secureApn = "secure.example";
@@ -101,6 +103,37 @@ public:
 
     // Client ids currently allocated for a service.
     size_t clientCount(uint8_t service) const;
+
+    // ---- faults and the environment (the control channel) --------------
+    // Each returns the indications to deliver (none while stalled).
+
+    // Ends every active call; a negative reason gives the network-side
+    // default (fade, with the 3GPP cause "regular deactivation").
+    std::vector<Frame> dropCalls(int reason = -1);
+    // The network accepts the modem or not.
+    std::vector<Frame> setNetwork(bool registered);
+    // The signal level from now on; clients that asked hear of it.
+    std::vector<Frame> setSignal(int dbm);
+    // A hung modem: requests are read and never answered.
+    void setStalled(bool stalled);
+    // The SIM leaves or returns to its slot.
+    std::vector<Frame> setSim(bool present);
+    // Restart in place: every client id and call is forgotten, PIN1 must be
+    // verified again; each connection that held client ids gets a CTL Sync
+    // indication.
+    std::vector<Frame> reset();
+    // A fresh power-up: everything but the options is forgotten.
+    void reboot();
+    // The state as one line of JSON; `opens` is the transport's count of
+    // open device descriptors.
+    std::string status(int opens) const;
+
+    // Periodic work (transfer statistics reports); call it a few times a second.
+    std::vector<Frame> tick();
+
+    // One IP packet the host sent into the modem's network interface.
+    // Returns the packet the modem sends back (an echo reply), or nothing.
+    Bytes dataPacket(const uint8_t* packet, size_t len);
 
 private:
     mutable std::mutex mutex_;
