@@ -801,8 +801,10 @@ void Daemon::tearDown(const char* reason, bool talk) {
 }
 
 int Daemon::stop() {
-    // From here no wait outlasts the timeout, whatever the modem does.
-    long long deadline = monotonicMs() + cfg_.timeoutMs;
+    // From here no wait outlasts the timeout, whatever the modem does (less
+    // a margin for closing down and exiting).
+    int margin = cfg_.timeoutMs / 10 < 250 ? cfg_.timeoutMs / 10 : 250;
+    long long deadline = monotonicMs() + cfg_.timeoutMs - margin;
     s_.setWakeFd(-1);
     s_.setDeadline(deadline);
     emptyPipe(gStopPipe[0]);
@@ -839,7 +841,7 @@ void Daemon::dump() {
     char signal[16] = "-";
     if (snap_.haveSignal) snprintf(signal, sizeof signal, "%d dBm", snap_.signalDbm);
     logEvent("dump", stateName(state_),
-             "since %lld, apn %s, ipv4 %s, ipv6 %s, mtu %u, registered %s, signal %s, reconnects %d, "
+             "dump: since %lld, apn %s, ipv4 %s, ipv6 %s, mtu %u, registered %s, signal %s, reconnects %d, "
              "client ids %d, last error: %s",
              snap_.since, cfg_.apn ? cfg_.apn : "-", v4, v6, snap_.mtu, snap_.registered ? "yes" : "no", signal,
              snap_.reconnects, s_.clientCount(), snap_.lastError[0] ? snap_.lastError : "none");
