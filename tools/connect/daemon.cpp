@@ -69,7 +69,20 @@ constexpr int kRegistrationPollMs = 5000;
 constexpr int kSimPollMs = 1000;
 constexpr int kSimPolls = 30;
 
+// A script gets this long (but see runHook at the end).
+constexpr int kScriptMs = 30000;
+
 long long nowUnix() { return (long long)time(nullptr); }
+
+bool sameSettings(const FamilySettings& a, const FamilySettings& b) {
+    if (a.present != b.present || a.family != b.family || a.prefix != b.prefix || a.haveGateway != b.haveGateway ||
+        a.dnsCount != b.dnsCount || a.mtu != b.mtu || memcmp(a.address, b.address, sizeof a.address) != 0)
+        return false;
+    if (a.haveGateway && memcmp(a.gateway, b.gateway, sizeof a.gateway) != 0) return false;
+    for (int i = 0; i < a.dnsCount; ++i)
+        if (memcmp(a.dns[i], b.dns[i], sizeof a.dns[i]) != 0) return false;
+    return true;
+}
 
 }  // namespace
 
@@ -266,11 +279,14 @@ Event Daemon::start() {
     int n = zovQMINASIndicationRegisterReq(buf, sizeof buf);
     n = zovQMINASIndicationRegisterReqAddServingSystemEvents(buf, sizeof buf, 1);
     rc = request(ZOVQMI_SERVICE_NAS, buf, n);
-    if (rc != zovapp::kOk && rc != zovapp::kQmiFailure) return fault(rc, Event::DeviceLost);
     if (rc == zovapp::kOk) {
         QmiResult r = {};
-        s_.check("indication register", zovQMINASIndicationRegisterResp(msg_.bytes, msg_.len, &r), r);
+        rc = s_.check("indication register", zovQMINASIndicationRegisterResp(msg_.bytes, msg_.len, &r), r);
     }
+    // Without the indications, the registration is polled.
+    if (rc != zovapp::kOk && !(rc == zovapp::kQmiFailure && s_.qmiError() != kErrInvalidClientId) &&
+        rc != zovapp::kBadAnswer)
+        return fault(rc, Event::DeviceLost);
 
     // The operating mode: online, or brought online.
     n = zovQMIDMSGetOperatingModeReq(buf, sizeof buf);
@@ -307,6 +323,7 @@ Event Daemon::sim() {
             rc = s_.check("UIM state", zovQMIDMSUIMGetStateResp(msg_.bytes, msg_.len, &r, &uim), r);
         }
         if (rc != zovapp::kOk && rc != zovapp::kQmiFailure && rc != zovapp::kBadAnswer) return fault(rc, Event::Fatal);
+        if (rc == zovapp::kQmiFailure && s_.qmiError() == kErrInvalidClientId) return fault(rc, Event::Fatal);
         if (rc == zovapp::kOk && uim == kUimAbsent) {
             fatal(kExitSim, "SIM absent");
             return Event::Fatal;
@@ -322,6 +339,7 @@ Event Daemon::sim() {
                 zovQMIDMSUIMGetPINStatusRespGetPIN1Status(msg_.bytes, msg_.len, &status, &left, &unblockLeft) < 0)
                 rc = s_.fail(zovapp::kBadAnswer, "PIN status: no PIN1 status in the answer");
         }
+        if (rc == zovapp::kQmiFailure && s_.qmiError() == kErrInvalidClientId) return fault(rc, Event::Fatal);
         if (rc == zovapp::kOk) {
             switch (status) {
             case kPinVerified:
@@ -340,6 +358,7 @@ Event Daemon::sim() {
                     QmiResult r = {};
                     rc = s_.check("verify PIN", zovQMIDMSUIMVerifyPINResp(msg_.bytes, msg_.len, &r), r);
                 }
+                if (rc == zovapp::kQmiFailure && s_.qmiError() == kErrInvalidClientId) return fault(rc, Event::Fatal);
                 if (rc == zovapp::kQmiFailure) {
                     uint8_t vl = 0, ul = 0;
                     bool have = zovQMIDMSUIMVerifyPINRespGetRetriesLeft(msg_.bytes, msg_.len, &vl, &ul) >= 0;
@@ -374,9 +393,13 @@ Event Daemon::sim() {
             fatal(kExitSim, "SIM not ready: %s", rc == zovapp::kOk ? "PIN state not initialised" : s_.error());
             return Event::Fatal;
         }
-        if (waitIdle(monotonicMs() + kSimPollMs) == kWakeStop) return Event::Stop;
-        Event ev;
-        if (s_.isOpen() && drainDevice(&ev)) return ev;
+        long long until = monotonicMs() + kSimPollMs;
+        for (Wake w; (w = waitIdle(until)) != kWakeTimer;) {
+            if (w == kWakeStop) return Event::Stop;
+            Event ev;
+            if (drainDevice(&ev)) return ev;
+            s_.dropIndications();
+        }
     }
 }
 
@@ -511,7 +534,7 @@ int Daemon::startCall(Call& c) {
     return zovapp::kOk;
 }
 
-int Daemon::readSettings(Call& c) {
+int Daemon::readSettings(Call& c, FamilySettings* out) {
     uint8_t buf[32];
     int n = zovQMIWDSGetRuntimeSettingsReq(buf, sizeof buf);
     n = zovQMIWDSGetRuntimeSettingsReqAddRequestedSettings(buf, sizeof buf, kRequestedSettings);
@@ -555,7 +578,7 @@ int Daemon::readSettings(Call& c) {
     uint32_t mtu = 0;
     if (zovQMIWDSGetRuntimeSettingsRespGetMTU(m, len, &mtu) >= 0) f.mtu = mtu;
     f.present = true;
-    c.settings = f;
+    *out = f;
     return zovapp::kOk;
 }
 
@@ -582,7 +605,21 @@ bool Daemon::configure() {
             }
         }
     }
+    if (writeResolv(cfg_.resolv, snap_.v4, snap_.v6) < 0)
+        logError(stateName(state_), "cannot write %s: %s", cfg_.resolv, strerror(errno));
     return true;
+}
+
+void Daemon::unconfigure() {
+    for (int i = 1; i >= 0; --i) {
+        Call& c = calls_[i];
+        const FamilySettings& f = c.settings;
+        if (c.routeSet) nl_.delDefaultRoute(ifindex_, f.family, f.haveGateway ? f.gateway : nullptr);
+        if (c.addressSet && nl_.delAddress(ifindex_, f.family, f.address, f.prefix) < 0)
+            logError(stateName(state_), "%s", nl_.error());
+        c.routeSet = c.addressSet = false;
+    }
+    if (cfg_.configure) removeResolv(cfg_.resolv);
 }
 
 Event Daemon::connect() {
@@ -590,9 +627,22 @@ Event Daemon::connect() {
     for (int i = 0; i < callCount(); ++i) {
         Call& c = calls_[i];
         int rc = startCall(c);
-        if (rc == zovapp::kOk) rc = readSettings(c);
+        if (rc == zovapp::kOk) rc = readSettings(c, &c.settings);
         if (rc != zovapp::kOk) return fault(rc, Event::CallFailed);
     }
+    takeSettings("up");
+    if (cfg_.configure && !configure()) {
+        setError("%s", nl_.error());
+        logError(stateName(state_), "%s", nl_.error());
+        return Event::CallFailed;
+    }
+    runHook("up", "");
+    scriptUp_ = cfg_.script != nullptr;
+    snap_.lastError[0] = 0;
+    return Event::Ready;
+}
+
+void Daemon::takeSettings(const char* how) {
     snap_.v4 = FamilySettings();
     snap_.v6 = FamilySettings();
     snap_.mtu = 0;
@@ -603,26 +653,47 @@ Event Daemon::connect() {
         char a[kAddressText], g[kAddressText] = "-";
         addressText(f.family, f.address, a, sizeof a);
         if (f.haveGateway) addressText(f.family, f.gateway, g, sizeof g);
-        logEvent("call", stateName(state_), "IPv%u call up: %s/%d gateway %s mtu %u", f.family, a, f.prefix, g,
+        logEvent("call", stateName(state_), "IPv%u call %s: %s/%d gateway %s mtu %u", f.family, how, a, f.prefix, g,
                  f.mtu);
     }
-    if (cfg_.configure) {
-        if (!configure()) {
-            setError("%s", nl_.error());
-            logError(stateName(state_), "%s", nl_.error());
-            return Event::CallFailed;
+}
+
+void Daemon::runHook(const char* action, const char* reason) {
+    if (!cfg_.script) return;
+    ScriptEnv env;
+    scriptEnvironment(&env, cfg_.ifname, cfg_.apn, snap_.v4, snap_.v6, snap_.mtu, reason);
+    long long deadline = monotonicMs() + kScriptMs;
+    // At the end the script has what the teardown's time leaves it.
+    if (state_ == State::Stopping) deadline = monotonicMs() + (s_.isOpen() ? cfg_.timeoutMs / 2 : cfg_.timeoutMs * 3 / 4);
+    int st = runScript(cfg_.script, action, env, deadline);
+    if (st != 0) logError(stateName(state_), "script %s %s: exit status %d", cfg_.script, action, st);
+}
+
+// The settings the modem reports now differ from those configured: the
+// interface follows, and the script hears "update".
+Event Daemon::refresh() {
+    bool changed = false;
+    FamilySettings now[2];
+    for (int i = 0; i < callCount(); ++i) {
+        int rc = readSettings(calls_[i], &now[i]);
+        if (rc != zovapp::kOk) {
+            // A call without settings is about to be reported down; the probe will say so.
+            if (rc == zovapp::kQmiFailure || rc == zovapp::kBadAnswer) return Event::Ready;
+            return fault(rc, Event::CallDropped);
         }
-        if (writeResolv(cfg_.resolv, snap_.v4, snap_.v6) < 0)
-            logError(stateName(state_), "cannot write %s: %s", cfg_.resolv, strerror(errno));
+        if (!sameSettings(now[i], calls_[i].settings)) changed = true;
     }
-    if (cfg_.script) {
-        ScriptEnv env;
-        scriptEnvironment(&env, cfg_.ifname, cfg_.apn, snap_.v4, snap_.v6, snap_.mtu, "");
-        int st = runScript(cfg_.script, "up", env, monotonicMs() + 30000);
-        scriptUp_ = true;
-        if (st != 0) logError(stateName(state_), "script %s up: exit status %d", cfg_.script, st);
+    if (!changed) return Event::Ready;
+    unconfigure();
+    for (int i = 0; i < callCount(); ++i) calls_[i].settings = now[i];
+    takeSettings("changed");
+    if (cfg_.configure && !configure()) {
+        setError("%s", nl_.error());
+        logError(stateName(state_), "%s", nl_.error());
+        return Event::CallFailed;
     }
-    snap_.lastError[0] = 0;
+    runHook("update", "");
+    publish();
     return Event::Ready;
 }
 
@@ -731,6 +802,8 @@ Event Daemon::watch() {
             }
         }
         if (timeouts_ == 0) {
+            ev = refresh();
+            if (ev != Event::Ready) return ev;
             updateSignal();
             if (timeouts_ >= 2) return Event::ModemStuck;
             nextProbe = monotonicMs() + cfg_.probeIntervalMs;
@@ -765,23 +838,8 @@ Event Daemon::backoff() {
 
 void Daemon::tearDown(const char* reason, bool talk) {
     // What is local first (it cannot hang), then the modem.
-    for (int i = 1; i >= 0; --i) {
-        Call& c = calls_[i];
-        const FamilySettings& f = c.settings;
-        if (c.routeSet) nl_.delDefaultRoute(ifindex_, f.family, f.haveGateway ? f.gateway : nullptr);
-        if (c.addressSet && nl_.delAddress(ifindex_, f.family, f.address, f.prefix) < 0)
-            logError(stateName(state_), "%s", nl_.error());
-        c.routeSet = c.addressSet = false;
-    }
-    if (cfg_.configure) removeResolv(cfg_.resolv);
-    if (scriptUp_ && cfg_.script) {
-        ScriptEnv env;
-        scriptEnvironment(&env, cfg_.ifname, cfg_.apn, snap_.v4, snap_.v6, snap_.mtu, reason);
-        long long deadline = monotonicMs() + 30000;
-        if (state_ == State::Stopping) deadline = s_.isOpen() ? monotonicMs() + cfg_.timeoutMs / 2 : monotonicMs() + cfg_.timeoutMs;
-        int st = runScript(cfg_.script, "down", env, deadline);
-        if (st != 0) logError(stateName(state_), "script %s down: exit status %d", cfg_.script, st);
-    }
+    unconfigure();
+    if (scriptUp_) runHook("down", reason);
     scriptUp_ = false;
     snap_.v4 = FamilySettings();
     snap_.v6 = FamilySettings();

@@ -65,8 +65,14 @@ private:
     void updateSignal();
     int probeCall(Call& c, uint8_t* status);
     int startCall(Call& c);
-    int readSettings(Call& c);
+    int readSettings(Call& c, FamilySettings* out);
+    // The calls' settings into the snapshot (and the log).
+    void takeSettings(const char* how);
+    Event refresh();
     bool configure();
+    void unconfigure();
+    // Runs the script, if any, with `action`.
+    void runHook(const char* action, const char* reason);
     // Undoes what the connection configured and runs the script with down.
     void tearDown(const char* reason, bool talk);
     void publish();

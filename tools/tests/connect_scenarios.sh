@@ -316,7 +316,7 @@ soak)
             4) ctl reset >/dev/null ;;
         esac
         done_faults=$((done_faults + 1))
-        sleep 0.$((RANDOM % 4))
+        sleep 0.$((RANDOM % 3))
         kill -0 "$dpid" 2>/dev/null || fail "the daemon exited after $done_faults faults"
         n=$(client_ids)
         [ "$n" -le 4 ] || fail "$n client ids allocated after $done_faults faults (at most 4)"
