@@ -132,8 +132,15 @@ chmod +x "$w/hook"
 bringup() {
     local family=$1
     start_sim --no-pin
-    start_daemon --ip-family "$family" --probe-interval 1 --timeout 1 --script "$w/hook"
+    local json=
+    [ "$family" = 6 ] && json=--json   # events as JSON lines on standard output
+    start_daemon --ip-family "$family" --probe-interval 1 --timeout 1 --script "$w/hook" $json
     wait_state connected 20
+    if [ -n "$json" ]; then
+        grep -q '^{"time":[0-9]*,"event":"state","state":"connected","message":"online"}$' "$w/daemon.log" ||
+            fail "no JSON event for the state connected"
+        ! grep -v '^{.*}$' "$w/daemon.log" | grep -q . || fail "a line of the JSON log is not an object"
+    fi
     case $family in
         4) ping4; grep -q '"ipv4":{"address":"10.64.1.2","prefix":30' "$w/state.json" || fail "no IPv4 settings" ;;
         6) ping6; grep -q '"ipv6":{"address":"2001:db8:64:1::2","prefix":64' "$w/state.json" || fail "no IPv6 settings" ;;
