@@ -57,6 +57,12 @@ enum QmiError : uint16_t {
     kErrInvalidQmiCommand = 0x0047,
 };
 
+// Call end reasons the modem gives.
+constexpr uint16_t kEndClient = 2;         // the client stopped the call
+constexpr uint16_t kEndNoService = 3;      // no network service
+constexpr uint16_t kEndFade = 4;           // the radio link faded
+constexpr uint16_t kEndAuth = 1014;        // authentication failed
+
 // Name of an error code ("IncorrectPin"), or "Unknown".
 const char* errorName(uint16_t code);
 

@@ -279,12 +279,6 @@ void releaseWdsClient(State& st, uint8_t client);
 // verbose item out.
 void endCalls(State& st, uint16_t reason, uint16_t verboseType, uint16_t verboseReason);
 
-// Call end reasons the modem gives.
-constexpr uint16_t kEndClient = 2;         // the client stopped the call
-constexpr uint16_t kEndNoService = 3;      // no network service
-constexpr uint16_t kEndFade = 4;           // the radio link faded
-constexpr uint16_t kEndAuth = 1014;        // authentication failed
-
 // Registration flags of a NAS client.
 enum : uint32_t { kNasRegSignal = 1, kNasRegServing = 2 };
 // Registration flags of a DMS client (SetEventReport).
