@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <cstring>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -211,6 +212,7 @@ struct State {
 
     // CTL
     uint32_t powerSaveMode = 0;
+    std::set<int> powerSaveReporting;  // connections that asked for power-save indications
     // DMS
     uint8_t operatingMode = 0;  // online
     Pin pin1, pin2;

@@ -429,6 +429,26 @@ TEST_F(Testbed, VanishOnTheSocketTransportEndsEveryConnectionAndBootsAFreshModem
     EXPECT_EQ(fresh.clientId(ZOVQMI_SERVICE_DMS), 1);
 }
 
+// ------------------------------------------------ CTL power-save mode --
+
+TEST_F(Testbed, AChangeOfThePowerSaveModeIsReportedToConnectionsThatAskedForIt) {
+    Conn asked(server), quiet(server);
+    uint8_t buf[64];
+    asked.send(0, 0, buf, zovQMICTLRegPwrSaveModeReq(buf, sizeof buf, 1));
+    ASSERT_EQ(rd16(asked.next().data() + 2), 0x0028);
+    quiet.send(0, 0, buf, zovQMICTLSetPwrSaveModeReq(buf, sizeof buf, 2));
+    Msg m = quiet.next();
+    QmiResult r{};
+    ASSERT_GE(zovQMICTLSetPwrSaveModeResp(m.data(), m.len(), &r), 0);
+    EXPECT_EQ(res(r), (Res{0, 0}));
+    Msg ind = asked.next();
+    uint32_t before = 9, after = 9;
+    ASSERT_EQ(zovQMICTLPwrSaveModeINDGetPowerSaveStateReport(ind.data(), ind.len(), &before, &after), 8);
+    EXPECT_EQ(before, 0u);
+    EXPECT_EQ(after, 2u);
+    EXPECT_TRUE(quiet.next(100).bytes.empty());
+}
+
 // -------------------------------------------------------- SMS arrival --
 
 TEST_F(Testbed, DeliverSmsStoresTheMessageAndAnnouncesIt) {

@@ -340,6 +340,9 @@ TEST_F(DataPath, PingCrossesTheModemWhileACallIsUpAndFailsWhenItDrops) {
     EXPECT_TRUE(run(ping6));
     // Both pings were counted (the kernel may send more of its own).
     std::string status = control(ctl, "status");
+    std::printf("status with a dual-stack call up: %s\n", status.c_str());
+    EXPECT_TRUE(contains(status, "\"family\":4,\"apn\":\"internet\"}")) << status;
+    EXPECT_TRUE(contains(status, "\"family\":6,\"apn\":\"internet\"}")) << status;
     size_t at = status.find("\"rx_packets\":");
     ASSERT_NE(at, std::string::npos) << status;
     EXPECT_GE(std::atoi(status.c_str() + at + 13), 6) << status;
