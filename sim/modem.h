@@ -10,8 +10,9 @@
 //
 // Every request gets an answer: a request the modem does not know, or a
 // malformed one, is answered with a failure result (result 1 and a QMI
-// error code).  The only exception is a message listed in Options::silent,
-// which lets tests exercise a caller's timeout.
+// error code).  The exceptions are a message listed in Options::silent,
+// which lets tests exercise a caller's timeout, and a stalled modem (see
+// setStalled), which answers nothing at all.
 #pragma once
 
 #include <cstdint>
