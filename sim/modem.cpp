@@ -160,6 +160,7 @@ size_t Modem::clientCount(uint8_t service) const {
 void Modem::disconnect(int conn, bool releaseIds) {
     std::lock_guard<std::mutex> lock(mutex_);
     State& st = *state_;
+    st.powerSaveReporting.erase(conn);
     for (auto it = st.clients.begin(); it != st.clients.end();) {
         if (it->second.conn == conn && !releaseIds) {
             it->second.conn = -1;
@@ -379,6 +380,7 @@ std::vector<Frame> Modem::reset() {
     st.clients.clear();
     st.calls.clear();
     st.flows.clear();
+    st.powerSaveReporting.clear();
     st.traffic = Traffic();
     st.operatingMode = 0;
     st.pin1.verified = st.pin2.verified = false;
@@ -520,15 +522,23 @@ Reply handleCtl(State& st, const Req& r) {
             }
         }
         return ok();
-    case 0x0028:  // RegPwrSaveMode
-        r.need(0x01).u8(0);
+    case 0x0028:  // RegPwrSaveMode: 1 reports changes of the power-save mode to this connection
+        if (r.need(0x01).u8(0)) st.powerSaveReporting.insert(r.conn);
+        else st.powerSaveReporting.erase(r.conn);
         return ok();
     case 0x0029:  // ConfigPwrSaveSettings
         r.need(0x01).need(0, 5);
         return ok();
-    case 0x002A:  // SetPwrSaveMode
-        st.powerSaveMode = r.need(0x01).u32(0);
+    case 0x002A: {  // SetPwrSaveMode
+        uint32_t mode = r.need(0x01).u32(0);
+        if (mode != st.powerSaveMode) {
+            // The indication reports the state left and the state entered.
+            Bytes ind = buildMessage(true, kCtlIndication, 0, 0x0028, {{0x10, W().u32(st.powerSaveMode).u32(mode)}});
+            for (int conn : st.powerSaveReporting) st.after.push_back(Frame{conn, qmuxFrame(0, 0, ind)});
+            st.powerSaveMode = mode;
+        }
         return ok();
+    }
     case 0x002B:  // GetPwrSaveMode
         return ok({{0x01, W().u32(st.powerSaveMode)}});
     default:

@@ -10,8 +10,9 @@
 //
 // Every request gets an answer: a request the modem does not know, or a
 // malformed one, is answered with a failure result (result 1 and a QMI
-// error code).  The only exception is a message listed in Options::silent,
-// which lets tests exercise a caller's timeout.
+// error code).  The exceptions are a message listed in Options::silent,
+// which lets tests exercise a caller's timeout, and a stalled modem (see
+// setStalled), which answers nothing at all.
 #pragma once
 
 #include <cstdint>
@@ -56,6 +57,12 @@ enum QmiError : uint16_t {
     kErrDeviceNotReady = 0x0034,
     kErrInvalidQmiCommand = 0x0047,
 };
+
+// Call end reasons the modem gives.
+constexpr uint16_t kEndClient = 2;         // the client stopped the call
+constexpr uint16_t kEndNoService = 3;      // no network service
+constexpr uint16_t kEndFade = 4;           // the radio link faded
+constexpr uint16_t kEndAuth = 1014;        // authentication failed
 
 // Name of an error code ("IncorrectPin"), or "Unknown".
 const char* errorName(uint16_t code);

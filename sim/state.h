@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <cstring>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -211,6 +212,7 @@ struct State {
 
     // CTL
     uint32_t powerSaveMode = 0;
+    std::set<int> powerSaveReporting;  // connections that asked for power-save indications
     // DMS
     uint8_t operatingMode = 0;  // online
     Pin pin1, pin2;
@@ -278,12 +280,6 @@ void releaseWdsClient(State& st, uint8_t client);
 // indication carrying the end reason; a verbose reason type 0 leaves the
 // verbose item out.
 void endCalls(State& st, uint16_t reason, uint16_t verboseType, uint16_t verboseReason);
-
-// Call end reasons the modem gives.
-constexpr uint16_t kEndClient = 2;         // the client stopped the call
-constexpr uint16_t kEndNoService = 3;      // no network service
-constexpr uint16_t kEndFade = 4;           // the radio link faded
-constexpr uint16_t kEndAuth = 1014;        // authentication failed
 
 // Registration flags of a NAS client.
 enum : uint32_t { kNasRegSignal = 1, kNasRegServing = 2 };
