@@ -27,8 +27,16 @@ namespace {
 int gStopPipe[2] = {-1, -1};
 int gDumpPipe[2] = {-1, -1};
 
+// When the first stop signal came (monotonic ms): the teardown's time runs from there.
+volatile long long gStopAtMs = 0;
+
 void onSignal(int sig) {
     int e = errno;
+    if (sig != SIGUSR1 && gStopAtMs == 0) {
+        timespec ts;
+        clock_gettime(CLOCK_MONOTONIC, &ts);
+        gStopAtMs = (long long)ts.tv_sec * 1000 + ts.tv_nsec / 1000000;
+    }
     char b = char(sig);
     ssize_t n = write(sig == SIGUSR1 ? gDumpPipe[1] : gStopPipe[1], &b, 1);
     (void)n;
@@ -664,8 +672,13 @@ void Daemon::runHook(const char* action, const char* reason) {
     scriptEnvironment(&env, cfg_.ifname, cfg_.apn, snap_.v4, snap_.v6, snap_.mtu, reason);
     long long deadline = monotonicMs() + kScriptMs;
     // At the end the script has what the teardown's time leaves it.
-    if (state_ == State::Stopping) deadline = monotonicMs() + (s_.isOpen() ? cfg_.timeoutMs / 2 : cfg_.timeoutMs * 3 / 4);
-    int st = runScript(cfg_.script, action, env, deadline);
+    if (state_ == State::Stopping) {
+        // Half of what is left when the modem is still to be told, else all.
+        long long now = monotonicMs(), left = stopDeadlineMs_ - now;
+        deadline = now + (s_.isOpen() ? left / 2 : left);
+    }
+    int st = runScript(cfg_.script, action, env, deadline, state_ == State::Stopping ? -1 : gStopPipe[0],
+                       cfg_.timeoutMs / 4);
     if (st != 0) logError(stateName(state_), "script %s %s: exit status %d", cfg_.script, action, st);
 }
 
@@ -862,7 +875,8 @@ int Daemon::stop() {
     // From here no wait outlasts the timeout, whatever the modem does (less
     // a margin for closing down and exiting).
     int margin = cfg_.timeoutMs / 10 < 250 ? cfg_.timeoutMs / 10 : 250;
-    long long deadline = monotonicMs() + cfg_.timeoutMs - margin;
+    long long deadline = (gStopAtMs ? gStopAtMs : monotonicMs()) + cfg_.timeoutMs - margin;
+    stopDeadlineMs_ = deadline;
     s_.setWakeFd(-1);
     s_.setDeadline(deadline);
     emptyPipe(gStopPipe[0]);

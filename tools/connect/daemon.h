@@ -96,6 +96,7 @@ private:
     bool everConnected_ = false;
     bool scriptUp_ = false;
     long long connectedAtMs_ = 0;
+    long long stopDeadlineMs_ = 0;
     zovapp::Message msg_;
 };
 

@@ -195,7 +195,8 @@ void scriptEnvironment(ScriptEnv* e, const char* ifname, const char* apn, const 
     e->env[e->count] = nullptr;
 }
 
-int runScript(const char* script, const char* action, const ScriptEnv& e, long long deadlineMs) {
+int runScript(const char* script, const char* action, const ScriptEnv& e, long long deadlineMs, int stopFd,
+              int graceMs) {
     pid_t pid = fork();
     if (pid < 0) return -1;
     if (pid == 0) {
@@ -218,7 +219,13 @@ int runScript(const char* script, const char* action, const ScriptEnv& e, long l
             waitpid(pid, &status, 0);
             return -1;
         }
-        poll(nullptr, 0, 10);  // a short sleep between looks at the child
+        // A short sleep between looks at the child (or a stop asked for).
+        pollfd p = {stopFd, POLLIN, 0};
+        if (poll(&p, stopFd >= 0 ? 1 : 0, 10) > 0 && (p.revents & POLLIN)) {
+            long long soon = zovapp::monotonicMs() + graceMs;
+            if (soon < deadlineMs) deadlineMs = soon;
+            stopFd = -1;
+        }
     }
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }

@@ -76,8 +76,10 @@ void scriptEnvironment(ScriptEnv* e, const char* ifname, const char* apn, const 
 
 // Runs `script action` with the ZOVQMI_* variables added to the environment
 // and waits for it until `deadlineMs` (monotonic); a script still running then
-// is killed.  Returns its exit status, or -1 when it could not run or was
-// killed.
-int runScript(const char* script, const char* action, const ScriptEnv& e, long long deadlineMs);
+// is killed.  When `stopFd` becomes readable meanwhile (a stop was asked
+// for), the script has `graceMs` more at most.  Returns its exit status, or
+// -1 when it could not run or was killed.
+int runScript(const char* script, const char* action, const ScriptEnv& e, long long deadlineMs, int stopFd = -1,
+              int graceMs = 0);
 
 }  // namespace zovconnect

@@ -306,6 +306,18 @@ sigterm)
     stop_daemon 2000
     [ "$(active_calls)" = 0 ] || fail "calls left after the next run"
     [ "$(client_ids)" = 0 ] || fail "client ids left after the next run"
+    # While the script hangs: out within the timeout too.
+    printf '#!/bin/sh\n[ "$1" = up ] && exec sleep 30\nexit 0\n' >"$w/slow"
+    chmod +x "$w/slow"
+    start_daemon --probe-interval 1 --timeout 2 --script "$w/slow"
+    until=$(($(now_ms) + 20000))
+    until grep -q 'call up' "$w/daemon.log"; do
+        [ "$(now_ms)" -lt "$until" ] || fail "no call within 20 s"
+        sleep 0.05
+    done
+    sleep 0.2
+    stop_daemon 2000
+    [ "$(client_ids)" = 0 ] || fail "client ids left after SIGTERM during the script"
     ;;
 
 soak)
