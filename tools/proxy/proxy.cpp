@@ -59,7 +59,7 @@ int ProxyServer::listen(const char* path, unsigned mode, long gid) {
     sockaddr_un addr = {};
     addr.sun_family = AF_UNIX;
     if (strlen(path) >= sizeof addr.sun_path) {
-        snprintf(error_, sizeof error_, "proxy socket path too long: %s", path);
+        snprintf(error_, sizeof error_, "proxy socket path too long: %.100s", path);
         return -1;
     }
     strcpy(addr.sun_path, path);
@@ -85,7 +85,7 @@ int ProxyServer::listen(const char* path, unsigned mode, long gid) {
             unlink(path);
         }
     }
-    snprintf(error_, sizeof error_, "proxy socket %s: %s: %s", path, step, strerror(errno));
+    snprintf(error_, sizeof error_, "proxy socket %.100s: %s: %s", path, step, strerror(errno));
     closeFd(fd);
     return -1;
 }
