@@ -1,11 +1,12 @@
-/*
- * zovqmi.h - the public interface of libzovqmi.
+/**
+ * @file zovqmi.h
+ * @brief The public interface of libzovqmi: device access, framing and the QMI service messages.
  *
  * libzovqmi talks to a cellular modem over QMI: it opens the modem's QMI
  * control device, frames and unframes messages, and builds and parses the
  * messages of the CTL, WDS, DMS, NAS, QOS, WMS, PDS and PBM services.
  *
- * Conventions shared by every function:
+ * Conventions shared by every function (see @ref page_conventions):
  *  - Builders write into a caller-owned buffer (`buf`, capacity `bufsize`)
  *    and return the message length; parsers read a received message (`msg`,
  *    length `len`) and fill the caller's outputs.  The library keeps no state
@@ -26,6 +27,7 @@
 #if defined(_WIN32)
 #define ZOVQMI_API
 #elif defined(__GNUC__)
+/** Marks an exported function of the library (default visibility with GCC and clang). */
 #define ZOVQMI_API __attribute__((visibility("default")))
 #else
 #define ZOVQMI_API
@@ -37,114 +39,325 @@ extern "C" {
 
 /* ---------------------------------------------------------------- codes -- */
 
-/* Return codes.  Success values are zero or positive. */
+/** @defgroup codes Return codes and service types
+ *  @brief The negative codes every function may return, and the QMI service numbers.
+ *  @{
+ */
+
+/** Return codes.  Success values are zero or positive; each function lists the codes it can give. */
 enum {
-    /* A null buffer or required output, a request buffer that is too small,
-     * a non-zero length with null data, or an argument outside its set. */
+    /** A null buffer or required output, a request buffer that is too small,
+     *  a non-zero length with null data, or an argument outside its set.
+     *  The device functions also give it for a negative descriptor. */
     ZOVQMI_ERR_ARG = -1,
-    /* Builders: the item does not fit the buffer.  Parsers: no message with
-     * the expected id.  Device write: message too short or null. */
+    /** Builders: the item does not fit the buffer.  Parsers: no message with
+     *  the expected id.  Device write: message too short or null. */
     ZOVQMI_ERR_NO_MESSAGE = -2,
+    /** The same value as ZOVQMI_ERR_NO_MESSAGE, the name builders use: the item does not fit the buffer. */
     ZOVQMI_ERR_NO_ROOM = -2,
-    /* Parsers: the requested item (or the result item) is missing.
-     * Device write: the frame could not be allocated. */
+    /** Parsers: the requested item (or the result item) is missing.
+     *  Device write: the frame could not be allocated. */
     ZOVQMI_ERR_NO_TLV = -3,
-    /* Response parsers: the mandatory item 0x01 is missing (the result
-     * record has been filled already). */
+    /** Response parsers: the mandatory item 0x01 is missing (the result
+     *  record has been filled already). */
     ZOVQMI_ERR_NO_MANDATORY = -4,
-    /* Malformed input: a received message whose fields would lie beyond its
-     * end, a frame shorter than its header or larger than the buffer given
-     * for it, a value longer than the 1024 bytes of a QmiTlvRecord, or a
-     * count that would write past the end of a fixed-size caller record. */
+    /** Malformed input: a received message whose fields would lie beyond its
+     *  end, a frame shorter than its header or larger than the buffer given
+     *  for it, a value longer than the 1024 bytes of a QmiTlvRecord, or a
+     *  count that would write past the end of a fixed-size caller record.
+     *  No output is written when it is returned. */
     ZOVQMI_ERR_MALFORMED = -5
 };
 
-/* QMI service types, as used with zovQMIDeviceWrite. */
+/** QMI service types, as used with zovQMIDeviceWrite() and the GetClientID request. */
 enum {
-    ZOVQMI_SERVICE_CTL = 0,
-    ZOVQMI_SERVICE_WDS = 1,
-    ZOVQMI_SERVICE_DMS = 2,
-    ZOVQMI_SERVICE_NAS = 3,
-    ZOVQMI_SERVICE_QOS = 4,
-    ZOVQMI_SERVICE_WMS = 5,
-    ZOVQMI_SERVICE_PDS = 6,
-    ZOVQMI_SERVICE_PBM = 12
+    ZOVQMI_SERVICE_CTL = 0,  /**< Control service: client ids, versions, power save. */
+    ZOVQMI_SERVICE_WDS = 1,  /**< Wireless data service: data calls and profiles. */
+    ZOVQMI_SERVICE_DMS = 2,  /**< Device management service: identity, power, PIN. */
+    ZOVQMI_SERVICE_NAS = 3,  /**< Network access service: registration, signal. */
+    ZOVQMI_SERVICE_QOS = 4,  /**< Quality of service: flows and filters. */
+    ZOVQMI_SERVICE_WMS = 5,  /**< Wireless messaging service: short messages. */
+    ZOVQMI_SERVICE_PDS = 6,  /**< Position determination service: GPS. */
+    ZOVQMI_SERVICE_PBM = 12  /**< Phonebook manager service. */
 };
+
+/** @} */
 
 /* ------------------------------------------------------------- records -- */
 
 #pragma pack(push, 1)
 
-/* One TLV item: type, value length, value (at most 1024 bytes). 1027 bytes. */
+/** One TLV item: type, value length and value; 1027 bytes.
+ *  @ingroup framing
+ *  The element of zovQMIMSMGetTLVList() and the argument of zovQMIMSMControlAddTLV() and
+ *  zovQMIMSMMessageAddTLV().  length holds little-endian bytes on every host, as on the wire.
+ */
 typedef struct QmiTlvRecord {
-    uint8_t type;
-    uint16_t length;
-    uint8_t value[1024];
+    uint8_t type;        /**< Item type: 0x01 mandatory item, 0x02 result, 0x10 and above optional items. */
+    uint16_t length;     /**< Number of value bytes in use, at most 1024 (little-endian bytes). */
+    uint8_t value[1024]; /**< The value as on the wire. */
 } QmiTlvRecord;
 
-/* The 6-byte QMUX header in front of every frame on the device. */
+/** The 6-byte QMUX header in front of every frame on the device, as zovQMIMSMQMUXHeaderParse() fills it.
+ *  @ingroup framing
+ *  length holds little-endian bytes on every host, as on the wire.
+ */
 typedef struct QmiQmuxHeader {
-    uint8_t interfaceType;
-    uint16_t length;
-    uint8_t controlFlags;
-    uint8_t serviceType;
-    uint8_t clientId;
+    uint8_t interfaceType; /**< Interface type, 1 in every frame. */
+    uint16_t length;       /**< Bytes that follow the interface type: 5 + the message length (little-endian bytes). */
+    uint8_t controlFlags;  /**< Control flags, 0 in frames the library writes. */
+    uint8_t serviceType;   /**< Service of the message, a ZOVQMI_SERVICE_* value. */
+    uint8_t clientId;      /**< Client id of the message (0 for CTL). */
 } QmiQmuxHeader;
 
-/* One message of a received buffer: id, TLV-area length and a caller-owned
- * buffer that receives the TLV area (may be null).  8 bytes on 32-bit hosts. */
+/** One message of a received buffer: id, item-area length and a caller-owned
+ *  buffer that receives the item area (may be null).  8 bytes on 32-bit hosts (12 on 64-bit ones).
+ *  @ingroup framing
+ *  The id and length hold little-endian bytes on every host.
+ */
 typedef struct QmiMessageEntry {
-    uint16_t messageId;
-    uint16_t length;
-    uint8_t* value;
+    uint16_t messageId; /**< Message id (little-endian bytes). */
+    uint16_t length;    /**< Length of the message's item area (little-endian bytes). */
+    uint8_t* value;     /**< Caller's buffer of at least length bytes for the item area, or null to skip it. */
 } QmiMessageEntry;
 
-/* Header fields of a received message and its messages. */
+/** Header fields of a received message and its messages, as zovQMIMSMControlParse() and
+ *  zovQMIMSMMessageParse() fill them.
+ *  @ingroup framing
+ *  transactionId and messageCount hold little-endian bytes on every host; entries is set by the caller.
+ */
 typedef struct QmiMessageInfo {
-    uint8_t controlFlags;
-    uint16_t transactionId;
-    uint16_t messageCount;
-    QmiMessageEntry* entries;
+    uint8_t controlFlags;     /**< Control flags: service messages 0 request, 2 response, 4 indication;
+                                   CTL messages 0 request, 1 response, 2 indication. */
+    uint16_t transactionId;   /**< Transaction id: one byte for CTL, two for the other services (LE bytes). */
+    uint16_t messageCount;    /**< Number of messages in the buffer (little-endian bytes). */
+    QmiMessageEntry* entries; /**< Caller's array for the messages, or null to count them only. */
 } QmiMessageInfo;
 
-/* The result item 0x02 of every response: result code and error code. */
+/** The result item 0x02 of every response: result code and error code; 4 bytes.
+ *  @ingroup framing
+ *  Both fields hold little-endian bytes on every host, as on the wire; on a little-endian host they read as
+ *  plain numbers.
+ */
 typedef struct QmiResult {
-    uint16_t result;
-    uint16_t error;
+    uint16_t result; /**< 0 success, 1 failure. */
+    uint16_t error;  /**< QMI error code when result is 1 (0 none). */
 } QmiResult;
 
-/* CTL: one entry of the service version lists (5 bytes). */
+/** One entry of the CTL service version lists; 5 bytes, as on the wire.
+ *  @ingroup svc_ctl
+ *  The versions hold little-endian bytes on every host.
+ */
 typedef struct CTLVersionEntry {
-    uint8_t serviceType;
-    uint16_t majorVersion;
-    uint16_t minorVersion;
+    uint8_t serviceType;   /**< Service, a ZOVQMI_SERVICE_* value or another QMI service number. */
+    uint16_t majorVersion; /**< Major version of the service (little-endian bytes). */
+    uint16_t minorVersion; /**< Minor version of the service (little-endian bytes). */
 } CTLVersionEntry;
 
 #pragma pack(pop)
 
 /* --------------------------------------------------- device and dump -- */
 
+/** @defgroup device Device access and hex dump
+ *  @brief Opening the QMI control device, writing and reading one frame, the driver's requests, a hex dump.
+ *  The only functions that touch the device; they block as the device does.  See @ref page_device.
+ *  @{
+ */
+
+/** Opens the QMI control device for reading and writing.
+ *  Calls open(path, O_RDWR) and nothing else; the descriptor blocks.
+ *  @param path Path of the character device, for instance "/dev/cdc-wdm0" (required).
+ *  @return The descriptor; ZOVQMI_ERR_ARG when path is null; the negative result of open() otherwise (errno is
+ *      left as open set it).
+ */
 ZOVQMI_API int zovQMIDeviceOpen(const char* path);
+/** Closes the device.
+ *  Calls close(fd) without any check.
+ *  @param fd Descriptor from zovQMIDeviceOpen().
+ *  @return The result of close(): 0, or -1 with errno set.
+ */
 ZOVQMI_API int zovQMIDeviceClose(int fd);
+/** Writes one message as one frame: the 6-byte QMUX header, then the message.
+ *  The header carries interface type 1, length len + 5 (little-endian), control flags 0, service and clientId.
+ *  The frame is allocated for the call and freed before it returns.
+ *  @param fd Descriptor from zovQMIDeviceOpen().
+ *  @param service Service type of the message, a ZOVQMI_SERVICE_* value (0 for CTL).
+ *  @param clientId Client id from GetClientID (0 for CTL).
+ *  @param msg The message built by a Req function and its ReqAdd functions (required).
+ *  @param len Length of msg in bytes, at least 6.
+ *  @return len on success; ZOVQMI_ERR_ARG for a negative fd; ZOVQMI_ERR_NO_MESSAGE when msg is null or len is
+ *      below 6; ZOVQMI_ERR_NO_TLV when the frame cannot be allocated; the negative result of write() otherwise.
+ *  @note Deliberate: the result is len, the caller's message length, not the number of bytes written, and a
+ *      short write is not detected.
+ *  @note Deliberate: messages shorter than 6 bytes (a control header) are refused, even for services whose
+ *      header is 7 bytes.
+ */
 ZOVQMI_API int zovQMIDeviceWrite(int fd, uint8_t service, uint8_t clientId, const uint8_t* msg, int len);
+/** Reads one frame and hands out its message without the QMUX header.
+ *  One read() of up to 4096 bytes; the header's service and client id are reported, its other fields are not
+ *  examined.
+ *  @param fd Descriptor from zovQMIDeviceOpen().
+ *  @param msg Buffer that receives the message (required).
+ *  @param msgSize Capacity of msg in bytes; 4090 holds any frame.
+ *  @param service Receives the service type of the frame (byte 4 of the header); may be null.
+ *  @param clientId Receives the client id of the frame (byte 5 of the header); may be null.
+ *  @return The message length (frame length - 6); ZOVQMI_ERR_ARG for a negative fd; ZOVQMI_ERR_NO_MESSAGE when
+ *      msg is null; ZOVQMI_ERR_MALFORMED when the frame is shorter than 6 bytes or the message longer than
+ *      msgSize (nothing is stored then); the negative result of read() otherwise.
+ */
 ZOVQMI_API int zovQMIDeviceRead(int fd, uint8_t* msg, int msgSize, uint8_t* service, uint8_t* clientId);
+/** Asks the driver for the modem's USB vendor and product ids.
+ *  Driver request 0x8BE0, which yields one u32: vendor id in the high half, product id in the low half.
+ *  @param fd Descriptor from zovQMIDeviceOpen().
+ *  @param vid Receives the vendor id (0 to 0xFFFF); may be null.  Untouched when the request fails.
+ *  @param pid Receives the product id (0 to 0xFFFF); may be null.  Untouched when the request fails.
+ *  @return The result of ioctl() (0 or more on success, negative on failure); ZOVQMI_ERR_ARG for a negative fd.
+ */
 ZOVQMI_API int zovQMIDeviceGetVIDPID(int fd, uint32_t* vid, uint32_t* pid);
+/** Asks the driver for its version.
+ *  Driver request 0x8BE2 with the caller's pointer passed through; what the driver writes there is the
+ *  driver's business.
+ *  @param fd Descriptor from zovQMIDeviceOpen().
+ *  @param out Buffer the driver writes its version into, as large as the driver needs (required).
+ *  @return The result of ioctl(); ZOVQMI_ERR_ARG for a negative fd or a null out.
+ */
 ZOVQMI_API int zovQMIDeviceGetVersion(int fd, void* out);
+/** Sets the driver's debug mode.
+ *  Driver request 0x8BE1 with mode passed by value; which modes the driver accepts is the driver's business.
+ *  @param fd Descriptor from zovQMIDeviceOpen().
+ *  @param mode Debug mode for the driver (0 usually turns its debug output off).
+ *  @return The result of ioctl(); ZOVQMI_ERR_ARG for a negative fd.
+ */
 ZOVQMI_API int zovQMIDeviceSetDebugMode(int fd, unsigned long mode);
+/** Prints bytes in hex to standard output, for diagnostics.
+ *  The line starts with "label (len), ", then the bytes follow as uppercase hex in groups of four, sixteen to a
+ *  line; continuation lines are indented by the width of that prefix, and the dump ends with a newline unless
+ *  len is 0 or a multiple of 16 (then the last line's newline already ended it).
+ *  @param ignored Not used.
+ *  @param label Text in front of the dump; null prints as an empty label.
+ *  @param data The bytes to print; may be null only when len is 0.
+ *  @param len Number of bytes to print; 0 prints the prefix only, without newline.
+ *  @return The result of the last printf() call (so 1 after a final newline), or ZOVQMI_ERR_ARG when data is
+ *      null and len is positive.
+ *  @note Deliberate: the first argument is ignored.
+ *  @note Deliberate: the result is that of the last printf() alone, not the number of characters printed.
+ */
 ZOVQMI_API int zovPrintHex(int ignored, const char* label, const uint8_t* data, int len);
+
+/** @} */
 
 /* ------------------------------------------------- framing and TLVs -- */
 
+/** @defgroup framing Framing and TLVs
+ *  @brief Transaction ids, the QMUX header, appending items and finding messages and items.
+ *  The wire format of every message: the control header (6 bytes: flags, one-byte transaction id, message id,
+ *  item-area length) or the service header (7 bytes: flags, two-byte transaction id, message id, item-area
+ *  length), then items of type u8, length u16 and value; all integers little-endian.  See @ref page_framing.
+ *  @{
+ */
+
+/** Returns the current value of the library's transaction counter.
+ *  @return The last transaction id handed out, 0 to 0xFFFF (0 before the first request).
+ */
 ZOVQMI_API int zovQMIMSMGetCurrentTransactionID(void);
+/** Advances the transaction counter and returns the new id.
+ *  Every Req function calls it once, after its argument checks pass.  The counter is 16 bits wide, starts at 0
+ *  and skips 0 when it wraps: the ids run 1, 2, ... 0xFFFF, 1.  It is not protected: callers that build
+ *  requests on several threads serialise the builders themselves.
+ *  @return The new transaction id, 1 to 0xFFFF.
+ *  @note Deliberate: CTL requests carry only the low byte of the id, so a CTL transaction id is 0 whenever the
+ *      counter is a multiple of 256.
+ */
 ZOVQMI_API int zovQMIMSMGetNextTransactionID(void);
+/** Parses a 6-byte QMUX header.
+ *  Copies the six header bytes into out as they are (length stays little-endian bytes).
+ *  @param buf A frame as read from the device, header first (required).
+ *  @param len Length of buf in bytes, at least 6.
+ *  @param out Receives the header fields (required).
+ *  @return The header's length field (frame length - 1); ZOVQMI_ERR_ARG when buf or out is null;
+ *      ZOVQMI_ERR_MALFORMED when len is below 6 (out is untouched).
+ */
 ZOVQMI_API int zovQMIMSMQMUXHeaderParse(const uint8_t* buf, int len, QmiQmuxHeader* out);
+/** Appends an item to a control (CTL) message whose header is already written.
+ *  Raises the item-area length at offset 4 and writes type, length (little-endian) and value after the items.
+ *  @param msg The control message under construction (required).
+ *  @param bufsize Capacity of msg in bytes.
+ *  @param tlv The item to append: type, length (little-endian bytes, at most 1024) and value (required).
+ *  @return The new message length (6 + item area); ZOVQMI_ERR_ARG when msg or tlv is null; ZOVQMI_ERR_NO_ROOM
+ *      when bufsize is below 6 or the item does not fit; ZOVQMI_ERR_MALFORMED when tlv->length exceeds 1024.
+ *      The message is unchanged on failure.
+ */
 ZOVQMI_API int zovQMIMSMControlAddTLV(uint8_t* msg, int bufsize, const QmiTlvRecord* tlv);
+/** Appends an item to a service message whose header is already written.
+ *  Raises the item-area length at offset 5 and writes type, length (little-endian) and value after the items.
+ *  @param msg The service message under construction (required).
+ *  @param bufsize Capacity of msg in bytes.
+ *  @param tlv The item to append: type, length (little-endian bytes, at most 1024) and value (required).
+ *  @return The new message length (7 + item area); ZOVQMI_ERR_ARG when msg or tlv is null; ZOVQMI_ERR_NO_ROOM
+ *      when bufsize is below 7 or the item does not fit; ZOVQMI_ERR_MALFORMED when tlv->length exceeds 1024.
+ *      The message is unchanged on failure.
+ */
 ZOVQMI_API int zovQMIMSMMessageAddTLV(uint8_t* msg, int bufsize, const QmiTlvRecord* tlv);
+/** Parses the header of a received control (CTL) message.
+ *  Fills flags, the one-byte transaction id and a count of 1; when out->entries is set, entry 0 gets the
+ *  message id and item-area length, and its value buffer (when set) a copy of the item area.
+ *  @param msg Received control message, QMUX header removed (required).
+ *  @param len Length of msg in bytes, at least 2.
+ *  @param out Receives the header fields; its entries pointer (set by the caller, may be null) receives
+ *      entry 0 (required).
+ *  @return 1, the number of messages; ZOVQMI_ERR_ARG when msg or out is null or len is below 2;
+ *      ZOVQMI_ERR_MALFORMED when out->entries is set and the message id, length or item area to copy lies
+ *      beyond len (out is untouched then).
+ *  @note Deliberate: a control buffer always counts as one message; the buffer is not walked further.
+ */
 ZOVQMI_API int zovQMIMSMControlParse(const uint8_t* msg, int len, QmiMessageInfo* out);
+/** Parses the header of a received service message and walks its messages.
+ *  Fills flags and the two-byte transaction id, then walks the messages from offset 3 (id u16, length u16,
+ *  item area) while at least one byte follows a message's 4-byte head, filling one entry per message when
+ *  out->entries is set.
+ *  @param msg Received service message, QMUX header removed (required).
+ *  @param len Length of msg in bytes, at least 3.
+ *  @param out Receives the header fields and the count; its entries pointer (set by the caller, may be null)
+ *      must hold as many entries as the buffer can contain (required).
+ *  @return The number of messages found (usually 1); ZOVQMI_ERR_ARG when msg or out is null or len is below 3;
+ *      ZOVQMI_ERR_MALFORMED when an item area to copy lies beyond len (out and every entry are untouched then).
+ */
 ZOVQMI_API int zovQMIMSMMessageParse(const uint8_t* msg, int len, QmiMessageInfo* out);
+/** Finds a message by id in a received service buffer.
+ *  Walks the messages from offset 3 while at least one byte follows a message's 4-byte head.
+ *  @param msg Received service message, QMUX header removed; null finds nothing.
+ *  @param len Length of msg in bytes.
+ *  @param msgid Message id to look for.
+ *  @param tlvlen Receives the length of the message's item area (required, not checked for null).
+ *  @return A pointer to the item area of the first message msgid, or null when there is none or msg is null.
+ *  @note Deliberate: a message whose 4-byte head ends exactly at the end of the buffer is not visited.
+ *  @note Deliberate: when no message is visited at all (len of 7 or less), id 0 matches at msg + 7 with length 0.
+ *  @note Deliberate: the length handed out is the message's own field; it is not compared with len.
+ */
 ZOVQMI_API const uint8_t* zovQMIMSMGetMessage(const uint8_t* msg, int len, uint16_t msgid, uint16_t* tlvlen);
+/** Finds an item by type in an item area.
+ *  Walks the items while a whole 3-byte head (type, length) fits inside len, so a zero-length item ending
+ *  exactly at the end of the area is found.
+ *  @param area The item area, for instance from zovQMIMSMGetMessage(); null finds nothing.
+ *  @param len Length of the area in bytes.
+ *  @param type Item type to look for.
+ *  @param vallen Receives the value length of the item (required, not checked for null).
+ *  @return A pointer to the value of the first item of that type, or null when there is none or area is null.
+ *  @note Deliberate: when no item is visited at all (len below 3), type 0 matches at area + 3 with length 0.
+ *  @note Deliberate: the value length handed out is the item's own field; it is not compared with len.
+ */
 ZOVQMI_API const uint8_t* zovQMIMSMGetTLV(const uint8_t* area, int len, uint8_t type, uint16_t* vallen);
+/** Counts the items of an area and copies each into the next record of a list.
+ *  Walks as zovQMIMSMGetTLV() does; each copied record gets type, length and value as on the wire.
+ *  @param area The item area; null gives 0.
+ *  @param len Length of the area in bytes.
+ *  @param list Array with one QmiTlvRecord per item of the area (1027 bytes each), or null to count only.
+ *  @return The number of items; 0 when area is null; ZOVQMI_ERR_MALFORMED when an item length makes the walk
+ *      wrap, or, with a list, when an item lies beyond len or its value exceeds 1024 bytes (list untouched).
+ */
 ZOVQMI_API int zovQMIMSMGetTLVList(const uint8_t* area, int len, QmiTlvRecord* list);
+
+/** @} */
 
 /* ---------------------------------------------------------------- CTL -- */
 /** @defgroup svc_ctl CTL: control service (service 0)
@@ -556,74 +769,95 @@ ZOVQMI_API int zovQMICTLGetPwrSaveModeResp(const uint8_t* msg, int len, QmiResul
 
 #pragma pack(push, 1)
 
-/* WDS: the current channel rate (16 bytes): four u32 as on the wire. */
+/** The channel rates of GetCurrentChannelRate (item 0x01), 16 bytes, as on the wire.
+ *  @ingroup svc_wds
+ *  Multi-byte fields hold little-endian bytes on every host, as on the wire.
+ */
 typedef struct WDSChannelRate {
-    uint32_t rates[4];
+    uint32_t rates[4]; /**< Bits per second: current transmit, current receive, maximum transmit, maximum receive. */
 } WDSChannelRate;
 
-/* WDS: one entry of the profile list: profile type, profile index, name
- * length and a caller-owned buffer that receives the name (may be null).
- * 7 bytes on 32-bit hosts. */
+/** One profile of the GetProfileList response; 7 bytes on 32-bit hosts (11 on 64-bit ones).
+ *  @ingroup svc_wds
+ *  The caller sets name before the call; the parser fills the other fields and copies the name.
+ */
 typedef struct WDSProfileListEntry {
-    uint8_t profileType;
-    uint8_t profileIndex;
-    uint8_t nameLength;
-    uint8_t* name;
+    uint8_t profileType;  /**< Profile type: 0 3GPP, 1 3GPP2. */
+    uint8_t profileIndex; /**< Index of the profile. */
+    uint8_t nameLength;   /**< Length of the profile name in bytes. */
+    uint8_t* name;        /**< Caller's buffer of 255 bytes for the name (not NUL-terminated), or null to skip it. */
 } WDSProfileListEntry;
 
-/* WDS: UMTS quality of service of a profile (33 bytes, wire layout). */
+/** UMTS quality of service of a profile (items 0x17 and 0x18), 33 bytes in wire layout.
+ *  @ingroup svc_wds
+ *  Multi-byte fields hold little-endian bytes on every host, as on the wire.
+ *  A value of 0 asks for the subscribed value.
+ */
 typedef struct WDSUMTSQoS {
-    uint8_t trafficClass;
-    uint32_t maxUplinkBitrate;
-    uint32_t maxDownlinkBitrate;
-    uint32_t guaranteedUplinkBitrate;
-    uint32_t guaranteedDownlinkBitrate;
-    uint8_t deliveryOrder;
-    uint32_t maxSDUSize;
-    uint8_t sduErrorRatio;
-    uint8_t residualBitErrorRatio;
-    uint8_t deliveryErroneousSDUs;
-    uint32_t transferDelay;
-    uint32_t trafficHandlingPriority;
+    uint8_t trafficClass;               /**< 0 subscribed, 1 conversational, 2 streaming, 3 interactive,
+                                             4 background. */
+    uint32_t maxUplinkBitrate;          /**< Maximum uplink bit rate, bits per second. */
+    uint32_t maxDownlinkBitrate;        /**< Maximum downlink bit rate, bits per second. */
+    uint32_t guaranteedUplinkBitrate;   /**< Guaranteed uplink bit rate, bits per second. */
+    uint32_t guaranteedDownlinkBitrate; /**< Guaranteed downlink bit rate, bits per second. */
+    uint8_t deliveryOrder;              /**< 0 subscribed, 1 in order, 2 without order. */
+    uint32_t maxSDUSize;                /**< Largest service data unit, bytes. */
+    uint8_t sduErrorRatio;              /**< SDU error ratio, coded as the modem defines it. */
+    uint8_t residualBitErrorRatio;      /**< Residual bit error ratio, coded as the modem defines it. */
+    uint8_t deliveryErroneousSDUs;      /**< 0 subscribed, 1 no detection, 2 delivered, 3 not delivered. */
+    uint32_t transferDelay;             /**< Transfer delay, milliseconds. */
+    uint32_t trafficHandlingPriority;   /**< Traffic handling priority, 1 (highest) to 3. */
 } WDSUMTSQoS;
 
-/* WDS: GPRS quality of service of a profile (20 bytes, wire layout). */
+/** GPRS quality of service of a profile (items 0x19 and 0x1A), 20 bytes in wire layout.
+ *  @ingroup svc_wds
+ *  Multi-byte fields hold little-endian bytes on every host, as on the wire.
+ *  Each field is a class number of the GPRS QoS profile; 0 asks for the subscribed class.
+ */
 typedef struct WDSGPRSQoS {
-    uint32_t precedenceClass;
-    uint32_t delayClass;
-    uint32_t reliabilityClass;
-    uint32_t peakThroughputClass;
-    uint32_t meanThroughputClass;
+    uint32_t precedenceClass;     /**< Precedence class. */
+    uint32_t delayClass;          /**< Delay class. */
+    uint32_t reliabilityClass;    /**< Reliability class. */
+    uint32_t peakThroughputClass; /**< Peak throughput class. */
+    uint32_t meanThroughputClass; /**< Mean throughput class. */
 } WDSGPRSQoS;
 
-/* WDS: a traffic flow template filter of a profile (39 bytes, wire layout);
- * the 21 leading bytes travel as they are. */
+/** A traffic flow template filter of a profile (items 0x23 and 0x24), 39 bytes in wire layout.
+ *  @ingroup svc_wds
+ *  Multi-byte fields hold little-endian bytes on every host, as on the wire.
+ */
 typedef struct WDSTFTFilter {
-    uint8_t leading[21];
-    uint16_t destinationPortStart;
-    uint16_t destinationPortRange;
-    uint16_t sourcePortStart;
-    uint16_t sourcePortRange;
-    uint32_t securityParameterIndex;
-    uint16_t typeOfServiceMask;
-    uint32_t flowLabel;
+    uint8_t leading[21];             /**< Filter id, evaluation precedence, IP version, 16-byte source address,
+                                          mask and next protocol; copied as they are. */
+    uint16_t destinationPortStart;   /**< First destination port. */
+    uint16_t destinationPortRange;   /**< Number of destination ports from the first. */
+    uint16_t sourcePortStart;        /**< First source port. */
+    uint16_t sourcePortRange;        /**< Number of source ports from the first. */
+    uint32_t securityParameterIndex; /**< IPsec security parameter index. */
+    uint16_t typeOfServiceMask;      /**< Type of service (first byte) and its mask (second byte). */
+    uint32_t flowLabel;              /**< IPv6 flow label. */
 } WDSTFTFilter;
 
-/* WDS: LTE quality of service of a profile (17 bytes, wire layout). */
+/** LTE quality of service of a profile (item 0x2E), 17 bytes in wire layout.
+ *  @ingroup svc_wds
+ *  Multi-byte fields hold little-endian bytes on every host, as on the wire.
+ */
 typedef struct WDSLTEQoS {
-    uint8_t qci;
-    uint32_t guaranteedUplinkBitrate;
-    uint32_t guaranteedDownlinkBitrate;
-    uint32_t maxUplinkBitrate;
-    uint32_t maxDownlinkBitrate;
+    uint8_t qci;                        /**< QoS class identifier. */
+    uint32_t guaranteedUplinkBitrate;   /**< Guaranteed uplink bit rate, bits per second. */
+    uint32_t guaranteedDownlinkBitrate; /**< Guaranteed downlink bit rate, bits per second. */
+    uint32_t maxUplinkBitrate;          /**< Maximum uplink bit rate, bits per second. */
+    uint32_t maxDownlinkBitrate;        /**< Maximum downlink bit rate, bits per second. */
 } WDSLTEQoS;
 
-/* WDS: one entry of a runtime name list (P-CSCF names, domain names):
- * name length and a caller-owned buffer that receives the name (may be
- * null).  6 bytes on 32-bit hosts. */
+/** One name of a runtime name list (P-CSCF names, domain names); 6 bytes on 32-bit hosts (10 on 64-bit ones).
+ *  @ingroup svc_wds
+ *  The caller sets name before the call; the parser fills length and copies the name.  length holds
+ *  little-endian bytes on every host.
+ */
 typedef struct WDSNameListEntry {
-    uint16_t length;
-    uint8_t* name;
+    uint16_t length; /**< Length of the name in bytes. */
+    uint8_t* name;   /**< Caller's buffer of length bytes for the name (not NUL-terminated), or null to skip it. */
 } WDSNameListEntry;
 
 #pragma pack(pop)
