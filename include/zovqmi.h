@@ -1811,7 +1811,7 @@ ZOVQMI_API int zovQMIWDSGetDefaultSettingsResp(const uint8_t* msg, int len, QmiR
  *  @{
  */
 /** Appends the profile name to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x10 (profile name), 3 + length bytes.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -1837,7 +1837,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddProfileName(uint8_t* buf, int bufsize, uint
 ZOVQMI_API int zovQMIWDSProfileRespGetProfileName(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
                                                   uint8_t* data);
 /** Appends the PDP type to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x11 (u8), 4 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -1858,7 +1858,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddPDPType(uint8_t* buf, int bufsize, uint8_t 
  */
 ZOVQMI_API int zovQMIWDSProfileRespGetPDPType(const uint8_t* msg, int len, uint16_t messageId, uint8_t* value);
 /** Appends the PDP header compression to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x12 (u8), 4 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -1881,7 +1881,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddPDPHeaderCompression(uint8_t* buf, int bufs
 ZOVQMI_API int zovQMIWDSProfileRespGetPDPHeaderCompression(const uint8_t* msg, int len, uint16_t messageId,
                                                            uint8_t* value);
 /** Appends the PDP data compression to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x13 (u8), 4 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -1903,7 +1903,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddPDPDataCompression(uint8_t* buf, int bufsiz
 ZOVQMI_API int zovQMIWDSProfileRespGetPDPDataCompression(const uint8_t* msg, int len, uint16_t messageId,
                                                          uint8_t* value);
 /** Appends the access point name to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x14 (access point name), 3 + length bytes.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -1929,7 +1929,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddAPNName(uint8_t* buf, int bufsize, uint16_t
 ZOVQMI_API int zovQMIWDSProfileRespGetAPNName(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
                                               uint8_t* data);
 /** Appends the preferred primary DNS server (IPv4) to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x15 (u32 IPv4 address), 7 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -1952,7 +1952,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddPrimaryDNSIPv4AddressPreference(uint8_t* bu
 ZOVQMI_API int zovQMIWDSProfileRespGetPrimaryDNSIPv4AddressPreference(const uint8_t* msg, int len,
                                                                       uint16_t messageId, uint32_t* value);
 /** Appends the preferred secondary DNS server (IPv4) to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x16 (u32 IPv4 address), 7 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -1975,7 +1975,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddSecondaryDNSIPv4AddressPreference(uint8_t* 
 ZOVQMI_API int zovQMIWDSProfileRespGetSecondaryDNSIPv4AddressPreference(const uint8_t* msg, int len,
                                                                         uint16_t messageId, uint32_t* value);
 /** Appends the UMTS quality of service requested to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x17 (WDSUMTSQoS, 33 bytes), 36 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2000,7 +2000,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddUMTSRequestedQoS(uint8_t* buf, int bufsize,
 ZOVQMI_API int zovQMIWDSProfileRespGetUMTSRequestedQoS(const uint8_t* msg, int len, uint16_t messageId,
                                                        uint8_t* record);
 /** Appends the minimum acceptable UMTS quality of service to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x18 (WDSUMTSQoS, 33 bytes), 36 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2025,7 +2025,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddUMTSMinimumQoS(uint8_t* buf, int bufsize, c
 ZOVQMI_API int zovQMIWDSProfileRespGetUMTSMinimumQoS(const uint8_t* msg, int len, uint16_t messageId,
                                                      uint8_t* record);
 /** Appends the GPRS quality of service requested to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x19 (WDSGPRSQoS, 20 bytes), 23 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2050,7 +2050,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddGPRSRequestedQoS(uint8_t* buf, int bufsize,
 ZOVQMI_API int zovQMIWDSProfileRespGetGPRSRequestedQoS(const uint8_t* msg, int len, uint16_t messageId,
                                                        uint8_t* record);
 /** Appends the minimum acceptable GPRS quality of service to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x1A (WDSGPRSQoS, 20 bytes), 23 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2075,7 +2075,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddGPRSMinimumQoS(uint8_t* buf, int bufsize, c
 ZOVQMI_API int zovQMIWDSProfileRespGetGPRSMinimumQoS(const uint8_t* msg, int len, uint16_t messageId,
                                                      uint8_t* record);
 /** Appends the user name to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x1B (user name), 3 + length bytes.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2101,7 +2101,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddUsername(uint8_t* buf, int bufsize, uint16_
 ZOVQMI_API int zovQMIWDSProfileRespGetUsername(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
                                                uint8_t* data);
 /** Appends the password to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x1C (password), 3 + length bytes.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2127,7 +2127,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddPassword(uint8_t* buf, int bufsize, uint16_
 ZOVQMI_API int zovQMIWDSProfileRespGetPassword(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
                                                uint8_t* data);
 /** Appends the authentication protocols allowed to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x1D (u8), 4 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2150,7 +2150,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddAuthenticationPreference(uint8_t* buf, int 
 ZOVQMI_API int zovQMIWDSProfileRespGetAuthenticationPreference(const uint8_t* msg, int len, uint16_t messageId,
                                                                uint8_t* value);
 /** Appends the preferred IPv4 address to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x1E (u32 IPv4 address), 7 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2172,7 +2172,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddIPv4AddressPreference(uint8_t* buf, int buf
 ZOVQMI_API int zovQMIWDSProfileRespGetIPv4AddressPreference(const uint8_t* msg, int len, uint16_t messageId,
                                                             uint32_t* value);
 /** Appends the P-CSCF by PCO flag to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x1F (u8), 4 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2195,7 +2195,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddPCSCFAddressUsingPCOFlag(uint8_t* buf, int 
 ZOVQMI_API int zovQMIWDSProfileRespGetPCSCFAddressUsingPCOFlag(const uint8_t* msg, int len, uint16_t messageId,
                                                                uint8_t* value);
 /** Appends the PDP access control to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x20 (u8), 4 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2217,7 +2217,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddPDPAccessControlFlag(uint8_t* buf, int bufs
 ZOVQMI_API int zovQMIWDSProfileRespGetPDPAccessControlFlag(const uint8_t* msg, int len, uint16_t messageId,
                                                            uint8_t* value);
 /** Appends the P-CSCF by DHCP flag to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x21 (u8), 4 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2239,7 +2239,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddPCSCFAddressUsingDHCPFlag(uint8_t* buf, int
 ZOVQMI_API int zovQMIWDSProfileRespGetPCSCFAddressUsingDHCPFlag(const uint8_t* msg, int len, uint16_t messageId,
                                                                 uint8_t* value);
 /** Appends the IM CN flag to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x22 (u8), 4 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2260,7 +2260,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddIMCNFlag(uint8_t* buf, int bufsize, uint8_t
  */
 ZOVQMI_API int zovQMIWDSProfileRespGetIMCNFlag(const uint8_t* msg, int len, uint16_t messageId, uint8_t* value);
 /** Appends the first traffic flow template filter to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x23 (WDSTFTFilter, 39 bytes), 42 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2284,7 +2284,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddTFTFilterID1(uint8_t* buf, int bufsize, con
  */
 ZOVQMI_API int zovQMIWDSProfileRespGetTFTFilterID1(const uint8_t* msg, int len, uint16_t messageId, uint8_t* record);
 /** Appends the second traffic flow template filter to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x24 (WDSTFTFilter, 39 bytes), 42 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2308,7 +2308,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddTFTFilterID2(uint8_t* buf, int bufsize, con
  */
 ZOVQMI_API int zovQMIWDSProfileRespGetTFTFilterID2(const uint8_t* msg, int len, uint16_t messageId, uint8_t* record);
 /** Appends the PDP context number to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x25 (u8), 4 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2330,7 +2330,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddPDPContextNumber(uint8_t* buf, int bufsize,
 ZOVQMI_API int zovQMIWDSProfileRespGetPDPContextNumber(const uint8_t* msg, int len, uint16_t messageId,
                                                        uint8_t* value);
 /** Appends the secondary context flag to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x26 (u8), 4 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2352,7 +2352,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddPDPContextSecondaryFlag(uint8_t* buf, int b
 ZOVQMI_API int zovQMIWDSProfileRespGetPDPContextSecondaryFlag(const uint8_t* msg, int len, uint16_t messageId,
                                                               uint8_t* value);
 /** Appends the primary context id to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x27 (u8), 4 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2374,7 +2374,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddPDPContextPrimaryID(uint8_t* buf, int bufsi
 ZOVQMI_API int zovQMIWDSProfileRespGetPDPContextPrimaryID(const uint8_t* msg, int len, uint16_t messageId,
                                                           uint8_t* value);
 /** Appends the IPv6 address of the context to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x28 (16-byte IPv6 address), 19 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2397,7 +2397,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddPDPContextIPv6Address(uint8_t* buf, int buf
 ZOVQMI_API int zovQMIWDSProfileRespGetPDPContextIPv6Address(const uint8_t* msg, int len, uint16_t messageId,
                                                             uint8_t* address);
 /** Appends the preferred primary DNS server (IPv6) to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x2B (16-byte IPv6 address), 19 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2422,7 +2422,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddPrimaryIPv6DNSAddress(uint8_t* buf, int buf
 ZOVQMI_API int zovQMIWDSProfileRespGetPrimaryIPv6DNSAddress(const uint8_t* msg, int len, uint16_t messageId,
                                                             uint8_t* address);
 /** Appends the preferred secondary DNS server (IPv6) to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x2C (16-byte IPv6 address), 19 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2447,7 +2447,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddSecondaryIPv6DNSAddress(uint8_t* buf, int b
 ZOVQMI_API int zovQMIWDSProfileRespGetSecondaryIPv6DNSAddress(const uint8_t* msg, int len, uint16_t messageId,
                                                               uint8_t* address);
 /** Appends the IPv4 address allocation to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x2D (u8), 4 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
@@ -2469,7 +2469,7 @@ ZOVQMI_API int zovQMIWDSProfileReqAddIPv4AddressAlloc(uint8_t* buf, int bufsize,
 ZOVQMI_API int zovQMIWDSProfileRespGetIPv4AddressAlloc(const uint8_t* msg, int len, uint16_t messageId,
                                                        uint8_t* value);
 /** Appends the LTE quality of service requested to a profile request.
- *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq or
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
  *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x2E (WDSLTEQoS, 17 bytes), 20 bytes in all.
  *  @param buf The request under construction; its item-area length is raised (required).
  *  @param bufsize Capacity of buf in bytes.
