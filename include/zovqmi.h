@@ -122,7 +122,7 @@ typedef struct QmiMessageEntry {
 } QmiMessageEntry;
 
 /** Header fields of a received message and its messages, as zovQMIMSMControlParse() and
- *  zovQMIMSMMessageParse() fill them.
+ *  zovQMIMSMMessageParse() fill them; 9 bytes on 32-bit hosts (13 on 64-bit ones).
  *  @ingroup framing
  *  transactionId and messageCount hold little-endian bytes on every host; entries is set by the caller.
  */
@@ -231,8 +231,8 @@ ZOVQMI_API int zovQMIDeviceGetVersion(int fd, void* out);
 ZOVQMI_API int zovQMIDeviceSetDebugMode(int fd, unsigned long mode);
 /** Prints bytes in hex to standard output, for diagnostics.
  *  The line starts with "label (len), ", then the bytes follow as uppercase hex in groups of four, sixteen to a
- *  line; continuation lines are indented by the width of that prefix, and the dump ends with a newline unless
- *  len is 0 or a multiple of 16 (then the last line's newline already ended it).
+ *  line; continuation lines are indented by the width of that prefix, and the dump ends with a newline (none
+ *  when len is 0).
  *  @param ignored Not used.
  *  @param label Text in front of the dump; null prints as an empty label.
  *  @param data The bytes to print; may be null only when len is 0.
