@@ -51,7 +51,8 @@ enum {
      *  The device functions also give it for a negative descriptor. */
     ZOVQMI_ERR_ARG = -1,
     /** Builders: the item does not fit the buffer.  Parsers: no message with
-     *  the expected id.  Device write: message too short or null. */
+     *  the expected id.  Device write: message too short or null.  Device
+     *  read: null buffer. */
     ZOVQMI_ERR_NO_MESSAGE = -2,
     /** The same value as ZOVQMI_ERR_NO_MESSAGE, the name builders use: the item does not fit the buffer. */
     ZOVQMI_ERR_NO_ROOM = -2,
