@@ -1,11 +1,12 @@
-/*
- * zovqmi.h - the public interface of libzovqmi.
+/**
+ * @file zovqmi.h
+ * @brief The public interface of libzovqmi: device access, framing and the QMI service messages.
  *
  * libzovqmi talks to a cellular modem over QMI: it opens the modem's QMI
  * control device, frames and unframes messages, and builds and parses the
  * messages of the CTL, WDS, DMS, NAS, QOS, WMS, PDS and PBM services.
  *
- * Conventions shared by every function:
+ * Conventions shared by every function (see @ref page_conventions):
  *  - Builders write into a caller-owned buffer (`buf`, capacity `bufsize`)
  *    and return the message length; parsers read a received message (`msg`,
  *    length `len`) and fill the caller's outputs.  The library keeps no state
@@ -26,6 +27,7 @@
 #if defined(_WIN32)
 #define ZOVQMI_API
 #elif defined(__GNUC__)
+/** Marks an exported function of the library (default visibility with GCC and clang). */
 #define ZOVQMI_API __attribute__((visibility("default")))
 #else
 #define ZOVQMI_API
@@ -37,468 +39,2919 @@ extern "C" {
 
 /* ---------------------------------------------------------------- codes -- */
 
-/* Return codes.  Success values are zero or positive. */
+/** @defgroup codes Return codes and service types
+ *  @brief The negative codes every function may return, and the QMI service numbers.
+ *  @{
+ */
+
+/** Return codes.  Success values are zero or positive; each function lists the codes it can give. */
 enum {
-    /* A null buffer or required output, a request buffer that is too small,
-     * a non-zero length with null data, or an argument outside its set. */
+    /** A null buffer or required output, a request buffer that is too small,
+     *  a non-zero length with null data, or an argument outside its set.
+     *  The device functions also give it for a negative descriptor. */
     ZOVQMI_ERR_ARG = -1,
-    /* Builders: the item does not fit the buffer.  Parsers: no message with
-     * the expected id.  Device write: message too short or null. */
+    /** Builders: the item does not fit the buffer.  Parsers: no message with
+     *  the expected id.  Device write: message too short or null.  Device
+     *  read: null buffer. */
     ZOVQMI_ERR_NO_MESSAGE = -2,
+    /** The same value as ZOVQMI_ERR_NO_MESSAGE, the name builders use: the item does not fit the buffer. */
     ZOVQMI_ERR_NO_ROOM = -2,
-    /* Parsers: the requested item (or the result item) is missing.
-     * Device write: the frame could not be allocated. */
+    /** Parsers: the requested item (or the result item) is missing.
+     *  Device write: the frame could not be allocated. */
     ZOVQMI_ERR_NO_TLV = -3,
-    /* Response parsers: the mandatory item 0x01 is missing (the result
-     * record has been filled already). */
+    /** Response parsers: the mandatory item 0x01 is missing (the result
+     *  record has been filled already). */
     ZOVQMI_ERR_NO_MANDATORY = -4,
-    /* Malformed input: a received message whose fields would lie beyond its
-     * end, a frame shorter than its header or larger than the buffer given
-     * for it, a value longer than the 1024 bytes of a QmiTlvRecord, or a
-     * count that would write past the end of a fixed-size caller record. */
+    /** Malformed input: a received message whose fields would lie beyond its
+     *  end, a frame shorter than its header or larger than the buffer given
+     *  for it, a value longer than the 1024 bytes of a QmiTlvRecord, or a
+     *  count that would write past the end of a fixed-size caller record.
+     *  No output is written when it is returned. */
     ZOVQMI_ERR_MALFORMED = -5
 };
 
-/* QMI service types, as used with zovQMIDeviceWrite. */
+/** QMI service types, as used with zovQMIDeviceWrite() and the GetClientID request. */
 enum {
-    ZOVQMI_SERVICE_CTL = 0,
-    ZOVQMI_SERVICE_WDS = 1,
-    ZOVQMI_SERVICE_DMS = 2,
-    ZOVQMI_SERVICE_NAS = 3,
-    ZOVQMI_SERVICE_QOS = 4,
-    ZOVQMI_SERVICE_WMS = 5,
-    ZOVQMI_SERVICE_PDS = 6,
-    ZOVQMI_SERVICE_PBM = 12
+    ZOVQMI_SERVICE_CTL = 0,  /**< Control service: client ids, versions, power save. */
+    ZOVQMI_SERVICE_WDS = 1,  /**< Wireless data service: data calls and profiles. */
+    ZOVQMI_SERVICE_DMS = 2,  /**< Device management service: identity, power, PIN. */
+    ZOVQMI_SERVICE_NAS = 3,  /**< Network access service: registration, signal. */
+    ZOVQMI_SERVICE_QOS = 4,  /**< Quality of service: flows and filters. */
+    ZOVQMI_SERVICE_WMS = 5,  /**< Wireless messaging service: short messages. */
+    ZOVQMI_SERVICE_PDS = 6,  /**< Position determination service: GPS. */
+    ZOVQMI_SERVICE_PBM = 12  /**< Phonebook manager service. */
 };
+
+/** @} */
 
 /* ------------------------------------------------------------- records -- */
 
 #pragma pack(push, 1)
 
-/* One TLV item: type, value length, value (at most 1024 bytes). 1027 bytes. */
+/** One TLV item: type, value length and value; 1027 bytes.
+ *  @ingroup framing
+ *  The element of zovQMIMSMGetTLVList() and the argument of zovQMIMSMControlAddTLV() and
+ *  zovQMIMSMMessageAddTLV().  length holds little-endian bytes on every host, as on the wire.
+ */
 typedef struct QmiTlvRecord {
-    uint8_t type;
-    uint16_t length;
-    uint8_t value[1024];
+    uint8_t type;        /**< Item type: 0x01 mandatory item, 0x02 result, 0x10 and above optional items. */
+    uint16_t length;     /**< Number of value bytes in use, at most 1024 (little-endian bytes). */
+    uint8_t value[1024]; /**< The value as on the wire. */
 } QmiTlvRecord;
 
-/* The 6-byte QMUX header in front of every frame on the device. */
+/** The 6-byte QMUX header in front of every frame on the device, as zovQMIMSMQMUXHeaderParse() fills it.
+ *  @ingroup framing
+ *  length holds little-endian bytes on every host, as on the wire.
+ */
 typedef struct QmiQmuxHeader {
-    uint8_t interfaceType;
-    uint16_t length;
-    uint8_t controlFlags;
-    uint8_t serviceType;
-    uint8_t clientId;
+    uint8_t interfaceType; /**< Interface type, 1 in every frame. */
+    uint16_t length;       /**< Bytes that follow the interface type: 5 + the message length (little-endian bytes). */
+    uint8_t controlFlags;  /**< Control flags, 0 in frames the library writes. */
+    uint8_t serviceType;   /**< Service of the message, a ZOVQMI_SERVICE_* value. */
+    uint8_t clientId;      /**< Client id of the message (0 for CTL). */
 } QmiQmuxHeader;
 
-/* One message of a received buffer: id, TLV-area length and a caller-owned
- * buffer that receives the TLV area (may be null).  8 bytes on 32-bit hosts. */
+/** One message of a received buffer: id, item-area length and a caller-owned
+ *  buffer that receives the item area (may be null).  8 bytes on 32-bit hosts (12 on 64-bit ones).
+ *  @ingroup framing
+ *  The id and length hold little-endian bytes on every host.
+ */
 typedef struct QmiMessageEntry {
-    uint16_t messageId;
-    uint16_t length;
-    uint8_t* value;
+    uint16_t messageId; /**< Message id (little-endian bytes). */
+    uint16_t length;    /**< Length of the message's item area (little-endian bytes). */
+    uint8_t* value;     /**< Caller's buffer of at least length bytes for the item area, or null to skip it. */
 } QmiMessageEntry;
 
-/* Header fields of a received message and its messages. */
+/** Header fields of a received message and its messages, as zovQMIMSMControlParse() and
+ *  zovQMIMSMMessageParse() fill them; 9 bytes on 32-bit hosts (13 on 64-bit ones).
+ *  @ingroup framing
+ *  transactionId and messageCount hold little-endian bytes on every host; entries is set by the caller.
+ */
 typedef struct QmiMessageInfo {
-    uint8_t controlFlags;
-    uint16_t transactionId;
-    uint16_t messageCount;
-    QmiMessageEntry* entries;
+    uint8_t controlFlags;     /**< Control flags: service messages 0 request, 2 response, 4 indication;
+                                   CTL messages 0 request, 1 response, 2 indication. */
+    uint16_t transactionId;   /**< Transaction id: one byte for CTL, two for the other services (LE bytes). */
+    uint16_t messageCount;    /**< Number of messages in the buffer (little-endian bytes). */
+    QmiMessageEntry* entries; /**< Caller's array for the messages, or null to count them only. */
 } QmiMessageInfo;
 
-/* The result item 0x02 of every response: result code and error code. */
+/** The result item 0x02 of every response: result code and error code; 4 bytes.
+ *  @ingroup framing
+ *  Both fields hold little-endian bytes on every host, as on the wire; on a little-endian host they read as
+ *  plain numbers.
+ */
 typedef struct QmiResult {
-    uint16_t result;
-    uint16_t error;
+    uint16_t result; /**< 0 success, 1 failure. */
+    uint16_t error;  /**< QMI error code when result is 1 (0 none). */
 } QmiResult;
 
-/* CTL: one entry of the service version lists (5 bytes). */
+/** One entry of the CTL service version lists; 5 bytes, as on the wire.
+ *  @ingroup svc_ctl
+ *  The versions hold little-endian bytes on every host.
+ */
 typedef struct CTLVersionEntry {
-    uint8_t serviceType;
-    uint16_t majorVersion;
-    uint16_t minorVersion;
+    uint8_t serviceType;   /**< Service, a ZOVQMI_SERVICE_* value or another QMI service number. */
+    uint16_t majorVersion; /**< Major version of the service (little-endian bytes). */
+    uint16_t minorVersion; /**< Minor version of the service (little-endian bytes). */
 } CTLVersionEntry;
 
 #pragma pack(pop)
 
 /* --------------------------------------------------- device and dump -- */
 
+/** @defgroup device Device access and hex dump
+ *  @brief Opening the QMI control device, writing and reading one frame, the driver's requests, a hex dump.
+ *  The only functions that touch the device; they block as the device does.  See @ref page_device.
+ *  @{
+ */
+
+/** Opens the QMI control device for reading and writing.
+ *  Calls open(path, O_RDWR) and nothing else; the descriptor blocks.
+ *  @param path Path of the character device, for instance "/dev/cdc-wdm0" (required).
+ *  @return The descriptor; ZOVQMI_ERR_ARG when path is null; the negative result of open() otherwise (errno is
+ *      left as open set it).
+ */
 ZOVQMI_API int zovQMIDeviceOpen(const char* path);
+/** Closes the device.
+ *  Calls close(fd) without any check.
+ *  @param fd Descriptor from zovQMIDeviceOpen().
+ *  @return The result of close(): 0, or -1 with errno set.
+ */
 ZOVQMI_API int zovQMIDeviceClose(int fd);
+/** Writes one message as one frame: the 6-byte QMUX header, then the message.
+ *  The header carries interface type 1, length len + 5 (little-endian), control flags 0, service and clientId.
+ *  The frame is allocated for the call and freed before it returns.
+ *  @param fd Descriptor from zovQMIDeviceOpen().
+ *  @param service Service type of the message, a ZOVQMI_SERVICE_* value (0 for CTL).
+ *  @param clientId Client id from GetClientID (0 for CTL).
+ *  @param msg The message built by a Req function and its ReqAdd functions (required).
+ *  @param len Length of msg in bytes, at least 6.
+ *  @return len on success; ZOVQMI_ERR_ARG for a negative fd; ZOVQMI_ERR_NO_MESSAGE when msg is null or len is
+ *      below 6; ZOVQMI_ERR_NO_TLV when the frame cannot be allocated; the negative result of write() otherwise.
+ *  @note Deliberate: the result is len, the caller's message length, not the number of bytes written, and a
+ *      short write is not detected.
+ *  @note Deliberate: messages shorter than 6 bytes (a control header) are refused, even for services whose
+ *      header is 7 bytes.
+ */
 ZOVQMI_API int zovQMIDeviceWrite(int fd, uint8_t service, uint8_t clientId, const uint8_t* msg, int len);
+/** Reads one frame and hands out its message without the QMUX header.
+ *  One read() of up to 4096 bytes; the header's service and client id are reported, its other fields are not
+ *  examined.
+ *  @param fd Descriptor from zovQMIDeviceOpen().
+ *  @param msg Buffer that receives the message (required).
+ *  @param msgSize Capacity of msg in bytes; 4090 holds any frame.
+ *  @param service Receives the service type of the frame (byte 4 of the header); may be null.
+ *  @param clientId Receives the client id of the frame (byte 5 of the header); may be null.
+ *  @return The message length (frame length - 6); ZOVQMI_ERR_ARG for a negative fd; ZOVQMI_ERR_NO_MESSAGE when
+ *      msg is null; ZOVQMI_ERR_MALFORMED when the frame is shorter than 6 bytes or the message longer than
+ *      msgSize (nothing is stored then); the negative result of read() otherwise.
+ */
 ZOVQMI_API int zovQMIDeviceRead(int fd, uint8_t* msg, int msgSize, uint8_t* service, uint8_t* clientId);
+/** Asks the driver for the modem's USB vendor and product ids.
+ *  Driver request 0x8BE0, which yields one u32: vendor id in the high half, product id in the low half.
+ *  @param fd Descriptor from zovQMIDeviceOpen().
+ *  @param vid Receives the vendor id (0 to 0xFFFF); may be null.  Untouched when the request fails.
+ *  @param pid Receives the product id (0 to 0xFFFF); may be null.  Untouched when the request fails.
+ *  @return The result of ioctl() (0 or more on success, negative on failure); ZOVQMI_ERR_ARG for a negative fd.
+ */
 ZOVQMI_API int zovQMIDeviceGetVIDPID(int fd, uint32_t* vid, uint32_t* pid);
+/** Asks the driver for its version.
+ *  Driver request 0x8BE2 with the caller's pointer passed through; what the driver writes there is the
+ *  driver's business.
+ *  @param fd Descriptor from zovQMIDeviceOpen().
+ *  @param out Buffer the driver writes its version into, as large as the driver needs (required).
+ *  @return The result of ioctl(); ZOVQMI_ERR_ARG for a negative fd or a null out.
+ */
 ZOVQMI_API int zovQMIDeviceGetVersion(int fd, void* out);
+/** Sets the driver's debug mode.
+ *  Driver request 0x8BE1 with mode passed by value; which modes the driver accepts is the driver's business.
+ *  @param fd Descriptor from zovQMIDeviceOpen().
+ *  @param mode Debug mode for the driver (0 usually turns its debug output off).
+ *  @return The result of ioctl(); ZOVQMI_ERR_ARG for a negative fd.
+ */
 ZOVQMI_API int zovQMIDeviceSetDebugMode(int fd, unsigned long mode);
+/** Prints bytes in hex to standard output, for diagnostics.
+ *  The line starts with "label (len), ", then the bytes follow as uppercase hex in groups of four, sixteen to a
+ *  line; continuation lines are indented by the width of that prefix, and the dump ends with a newline (none
+ *  when len is 0).
+ *  @param ignored Not used.
+ *  @param label Text in front of the dump; null prints as an empty label.
+ *  @param data The bytes to print; may be null only when len is 0.
+ *  @param len Number of bytes to print; 0 prints the prefix only, without newline.
+ *  @return The result of the last printf() call (so 1 after a final newline), or ZOVQMI_ERR_ARG when data is
+ *      null and len is positive.
+ *  @note Deliberate: the first argument is ignored.
+ *  @note Deliberate: the result is that of the last printf() alone, not the number of characters printed.
+ */
 ZOVQMI_API int zovPrintHex(int ignored, const char* label, const uint8_t* data, int len);
+
+/** @} */
 
 /* ------------------------------------------------- framing and TLVs -- */
 
+/** @defgroup framing Framing and TLVs
+ *  @brief Transaction ids, the QMUX header, appending items and finding messages and items.
+ *  The wire format of every message: the control header (6 bytes: flags, one-byte transaction id, message id,
+ *  item-area length) or the service header (7 bytes: flags, two-byte transaction id, message id, item-area
+ *  length), then items of type u8, length u16 and value; all integers little-endian.  See @ref page_framing.
+ *  @{
+ */
+
+/** Returns the current value of the library's transaction counter.
+ *  @return The last transaction id handed out, 0 to 0xFFFF (0 before the first request).
+ */
 ZOVQMI_API int zovQMIMSMGetCurrentTransactionID(void);
+/** Advances the transaction counter and returns the new id.
+ *  Every Req function calls it once, after its argument checks pass.  The counter is 16 bits wide, starts at 0
+ *  and skips 0 when it wraps: the ids run 1, 2, ... 0xFFFF, 1.  It is not protected: callers that build
+ *  requests on several threads serialise the builders themselves.
+ *  @return The new transaction id, 1 to 0xFFFF.
+ *  @note Deliberate: CTL requests carry only the low byte of the id, so a CTL transaction id is 0 whenever the
+ *      counter is a multiple of 256.
+ */
 ZOVQMI_API int zovQMIMSMGetNextTransactionID(void);
+/** Parses a 6-byte QMUX header.
+ *  Copies the six header bytes into out as they are (length stays little-endian bytes).
+ *  @param buf A frame as read from the device, header first (required).
+ *  @param len Length of buf in bytes, at least 6.
+ *  @param out Receives the header fields (required).
+ *  @return The header's length field (frame length - 1); ZOVQMI_ERR_ARG when buf or out is null;
+ *      ZOVQMI_ERR_MALFORMED when len is below 6 (out is untouched).
+ */
 ZOVQMI_API int zovQMIMSMQMUXHeaderParse(const uint8_t* buf, int len, QmiQmuxHeader* out);
+/** Appends an item to a control (CTL) message whose header is already written.
+ *  Raises the item-area length at offset 4 and writes type, length (little-endian) and value after the items.
+ *  @param msg The control message under construction (required).
+ *  @param bufsize Capacity of msg in bytes.
+ *  @param tlv The item to append: type, length (little-endian bytes, at most 1024) and value (required).
+ *  @return The new message length (6 + item area); ZOVQMI_ERR_ARG when msg or tlv is null; ZOVQMI_ERR_NO_ROOM
+ *      when bufsize is below 6 or the item does not fit; ZOVQMI_ERR_MALFORMED when tlv->length exceeds 1024.
+ *      The message is unchanged on failure.
+ */
 ZOVQMI_API int zovQMIMSMControlAddTLV(uint8_t* msg, int bufsize, const QmiTlvRecord* tlv);
+/** Appends an item to a service message whose header is already written.
+ *  Raises the item-area length at offset 5 and writes type, length (little-endian) and value after the items.
+ *  @param msg The service message under construction (required).
+ *  @param bufsize Capacity of msg in bytes.
+ *  @param tlv The item to append: type, length (little-endian bytes, at most 1024) and value (required).
+ *  @return The new message length (7 + item area); ZOVQMI_ERR_ARG when msg or tlv is null; ZOVQMI_ERR_NO_ROOM
+ *      when bufsize is below 7 or the item does not fit; ZOVQMI_ERR_MALFORMED when tlv->length exceeds 1024.
+ *      The message is unchanged on failure.
+ */
 ZOVQMI_API int zovQMIMSMMessageAddTLV(uint8_t* msg, int bufsize, const QmiTlvRecord* tlv);
+/** Parses the header of a received control (CTL) message.
+ *  Fills flags, the one-byte transaction id and a count of 1; when out->entries is set, entry 0 gets the
+ *  message id and item-area length, and its value buffer (when set) a copy of the item area.
+ *  @param msg Received control message, QMUX header removed (required).
+ *  @param len Length of msg in bytes, at least 2.
+ *  @param out Receives the header fields; its entries pointer (set by the caller, may be null) receives
+ *      entry 0 (required).
+ *  @return 1, the number of messages; ZOVQMI_ERR_ARG when msg or out is null or len is below 2;
+ *      ZOVQMI_ERR_MALFORMED when out->entries is set and the message id, length or item area to copy lies
+ *      beyond len (out is untouched then).
+ *  @note Deliberate: a control buffer always counts as one message; the buffer is not walked further.
+ */
 ZOVQMI_API int zovQMIMSMControlParse(const uint8_t* msg, int len, QmiMessageInfo* out);
+/** Parses the header of a received service message and walks its messages.
+ *  Fills flags and the two-byte transaction id, then walks the messages from offset 3 (id u16, length u16,
+ *  item area) while at least one byte follows a message's 4-byte head, filling one entry per message when
+ *  out->entries is set.
+ *  @param msg Received service message, QMUX header removed (required).
+ *  @param len Length of msg in bytes, at least 3.
+ *  @param out Receives the header fields and the count; its entries pointer (set by the caller, may be null)
+ *      must hold as many entries as the buffer can contain (required).
+ *  @return The number of messages found (usually 1); ZOVQMI_ERR_ARG when msg or out is null or len is below 3;
+ *      ZOVQMI_ERR_MALFORMED when an item area to copy lies beyond len (out and every entry are untouched then).
+ */
 ZOVQMI_API int zovQMIMSMMessageParse(const uint8_t* msg, int len, QmiMessageInfo* out);
+/** Finds a message by id in a received service buffer.
+ *  Walks the messages from offset 3 while at least one byte follows a message's 4-byte head.
+ *  @param msg Received service message, QMUX header removed; null finds nothing.
+ *  @param len Length of msg in bytes.
+ *  @param msgid Message id to look for.
+ *  @param tlvlen Receives the length of the message's item area (required, not checked for null).
+ *  @return A pointer to the item area of the first message msgid, or null when there is none or msg is null.
+ *  @note Deliberate: a message whose 4-byte head ends exactly at the end of the buffer is not visited.
+ *  @note Deliberate: when no message is visited at all (len of 7 or less), id 0 matches at msg + 7 with length 0.
+ *  @note Deliberate: the length handed out is the message's own field; it is not compared with len.
+ */
 ZOVQMI_API const uint8_t* zovQMIMSMGetMessage(const uint8_t* msg, int len, uint16_t msgid, uint16_t* tlvlen);
+/** Finds an item by type in an item area.
+ *  Walks the items while a whole 3-byte head (type, length) fits inside len, so a zero-length item ending
+ *  exactly at the end of the area is found.
+ *  @param area The item area, for instance from zovQMIMSMGetMessage(); null finds nothing.
+ *  @param len Length of the area in bytes.
+ *  @param type Item type to look for.
+ *  @param vallen Receives the value length of the item (required, not checked for null).
+ *  @return A pointer to the value of the first item of that type, or null when there is none or area is null.
+ *  @note Deliberate: when no item is visited at all (len below 3), type 0 matches at area + 3 with length 0.
+ *  @note Deliberate: the value length handed out is the item's own field; it is not compared with len.
+ */
 ZOVQMI_API const uint8_t* zovQMIMSMGetTLV(const uint8_t* area, int len, uint8_t type, uint16_t* vallen);
+/** Counts the items of an area and copies each into the next record of a list.
+ *  Walks as zovQMIMSMGetTLV() does; each copied record gets type, length and value as on the wire.
+ *  @param area The item area; null gives 0.
+ *  @param len Length of the area in bytes.
+ *  @param list Array with one QmiTlvRecord per item of the area (1027 bytes each), or null to count only.
+ *  @return The number of items; 0 when area is null; ZOVQMI_ERR_MALFORMED when an item length makes the walk
+ *      wrap, or, with a list, when an item lies beyond len or its value exceeds 1024 bytes (list untouched).
+ */
 ZOVQMI_API int zovQMIMSMGetTLVList(const uint8_t* area, int len, QmiTlvRecord* list);
 
-/* ---------------------------------------------------------------- CTL -- */
+/** @} */
 
+/* ---------------------------------------------------------------- CTL -- */
+/** @defgroup svc_ctl CTL: control service (service 0)
+ *  @brief Client ids, versions, data format and power-save reporting.
+ *  CTL messages carry the 6-byte control header with a one-byte transaction id and are written with
+ *  zovQMIDeviceWrite() as service 0, client id 0.  The parsers read the message id and item-area length from
+ *  that header instead of walking the buffer; reads stay inside len.
+ */
+
+/** @defgroup ctl_set_instance_id SetInstanceID (0x0020)
+ *  @ingroup svc_ctl
+ *  @brief Sets the instance id of the control point and returns the link id the modem assigns.
+ *  @{
+ */
+/** Builds a SetInstanceID request (0x0020).
+ *  Writes the 6-byte control header and the mandatory item 0x01 (instance id u8): 10 bytes.
+ *  The transaction id byte is the low byte of the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 10.
+ *  @param instanceId Instance id to use for this control point (0 for the first).
+ *  @return 10, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 10 (nothing written).
+ */
 ZOVQMI_API int zovQMICTLSetInstanceIDReq(uint8_t* buf, int bufsize, uint8_t instanceId);
+/** Parses a SetInstanceID response (0x0020).
+ *  Stores the result item 0x02 in result, then decodes the mandatory item 0x01 (assigned id u16).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @param assignedId Receives the link id the modem assigned (u16, native order) (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result, assignedId),
+ *      ZOVQMI_ERR_NO_MESSAGE (the header names another id), ZOVQMI_ERR_NO_TLV (no result item),
+ *      ZOVQMI_ERR_NO_MANDATORY (no item 0x01; result already filled), ZOVQMI_ERR_MALFORMED (msg shorter than the
+ *      control header, or a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMICTLSetInstanceIDResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* assignedId);
+/** @} */
+/** @defgroup ctl_get_version_info GetVersionInfo (0x0021)
+ *  @ingroup svc_ctl
+ *  @brief Asks which services the modem offers and their versions.
+ *  @{
+ */
+/** Builds a GetVersionInfo request (0x0021).
+ *  Writes the 6-byte control header of message 0x0021 with an empty item area: 6 bytes.
+ *  The transaction id byte is the low byte of the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 6.
+ *  @return 6, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 6 (nothing written).
+ */
 ZOVQMI_API int zovQMICTLGetVersionInfoReq(uint8_t* buf, int bufsize);
+/** Parses a GetVersionInfo response (0x0021).
+ *  Stores the result item 0x02 in result, then decodes the mandatory item 0x01 (a count u8, then per service its
+ *  type u8, major u16 and minor u16).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @param count Receives the number of entries of the list (required).
+ *  @param list Array of at least *count entries (up to 255) that receives the version list, 5 bytes per entry; may
+ *      be null, then only the count is stored.
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result, count), ZOVQMI_ERR_NO_MESSAGE
+ *      (the header names another id), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_NO_MANDATORY (no item 0x01;
+ *      result already filled), ZOVQMI_ERR_MALFORMED (msg shorter than the control header, or a field read lies
+ *      beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMICTLGetVersionInfoResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
                                            CTLVersionEntry* list);
+/** Reads the addendum version list of a GetVersionInfo response.
+ *  Reads the optional item 0x10 (label length u8, label, count u8, then count version entries) of a GetVersionInfo
+ *  response (0x0021).
+ *  The count byte follows the label; the entries follow the count.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param labelLength Receives the length of the label (required).
+ *  @param label Buffer of at least *labelLength bytes (up to 255) that receives the label, not NUL-terminated; may
+ *      be null.
+ *  @param count Receives the number of entries of the addendum list (required).
+ *  @param list Array of at least *count entries that receives the addendum list; may be null.
+ *  @return The value length of item 0x10; ZOVQMI_ERR_ARG (null msg, labelLength, count), ZOVQMI_ERR_NO_MESSAGE (the
+ *      header names another id), ZOVQMI_ERR_NO_TLV (no item 0x10), ZOVQMI_ERR_MALFORMED (msg shorter than the
+ *      control header, or a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMICTLGetVersionInfoRespGetAddendumVersionList(const uint8_t* msg, int len, uint8_t* labelLength,
                                                                  uint8_t* label, uint8_t* count,
                                                                  CTLVersionEntry* list);
+/** @} */
+/** @defgroup ctl_get_client_id GetClientID (0x0022)
+ *  @ingroup svc_ctl
+ *  @brief Obtains a client id for a service; every service but CTL needs one.
+ *  @{
+ */
+/** Builds a GetClientID request (0x0022) for one service.
+ *  Writes the 6-byte control header and the mandatory item 0x01 (service type u8): 10 bytes.
+ *  The transaction id byte is the low byte of the next transaction id.
+ *  Send it with zovQMIDeviceWrite() as service 0, client id 0.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 10.
+ *  @param serviceType Service the client id is for, a ZOVQMI_SERVICE_* value (1 WDS, 2 DMS, 3 NAS, ...).
+ *  @return 10, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 10 (nothing written).
+ */
 ZOVQMI_API int zovQMICTLGetClientIDReq(uint8_t* buf, int bufsize, uint8_t serviceType);
+/** Parses a GetClientID response (0x0022).
+ *  Stores the result item 0x02 in result, then decodes the mandatory item 0x01 (service type u8, client id u8).
+ *  The client id is valid only when result->result is 0.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @param serviceType Receives the service type of the client id (a ZOVQMI_SERVICE_* value) (required).
+ *  @param clientId Receives the client id (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result, serviceType, clientId),
+ *      ZOVQMI_ERR_NO_MESSAGE (the header names another id), ZOVQMI_ERR_NO_TLV (no result item),
+ *      ZOVQMI_ERR_NO_MANDATORY (no item 0x01; result already filled), ZOVQMI_ERR_MALFORMED (msg shorter than the
+ *      control header, or a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMICTLGetClientIDResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* serviceType,
                                         uint8_t* clientId);
+/** @} */
+/** @defgroup ctl_release_client_id ReleaseClientID (0x0023)
+ *  @ingroup svc_ctl
+ *  @brief Gives a client id back to the modem.
+ *  @{
+ */
+/** Builds a ReleaseClientID request (0x0023).
+ *  Writes the 6-byte control header and the mandatory item 0x01 (service type u8, client id u8): 11 bytes.
+ *  The transaction id byte is the low byte of the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 11.
+ *  @param serviceType Service of the client id, a ZOVQMI_SERVICE_* value.
+ *  @param clientId The client id to release, as GetClientID gave it.
+ *  @return 11, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 11 (nothing written).
+ */
 ZOVQMI_API int zovQMICTLReleaseClientIDReq(uint8_t* buf, int bufsize, uint8_t serviceType, uint8_t clientId);
+/** Parses a ReleaseClientID response (0x0023).
+ *  Stores the result item 0x02 in result, then decodes the mandatory item 0x01 (service type u8, client id u8).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @param serviceType Receives the service type of the released client id (required).
+ *  @param clientId Receives the released client id (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result, serviceType, clientId),
+ *      ZOVQMI_ERR_NO_MESSAGE (the header names another id), ZOVQMI_ERR_NO_TLV (no result item),
+ *      ZOVQMI_ERR_NO_MANDATORY (no item 0x01; result already filled), ZOVQMI_ERR_MALFORMED (msg shorter than the
+ *      control header, or a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMICTLReleaseClientIDResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* serviceType,
                                             uint8_t* clientId);
+/** @} */
+/** @defgroup ctl_revoke_client_id RevokeClientID (0x0024)
+ *  @ingroup svc_ctl
+ *  @brief Indication: the modem has taken a client id back.
+ *  @{
+ */
+/** Parses a RevokeClientID indication (0x0024).
+ *  Decodes the mandatory item 0x01 (service type u8, client id u8); an indication carries no result item.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param serviceType Receives the service type of the revoked client id (required).
+ *  @param clientId Receives the revoked client id (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, serviceType, clientId),
+ *      ZOVQMI_ERR_NO_MESSAGE (the header names another id), ZOVQMI_ERR_NO_TLV (no item 0x01), ZOVQMI_ERR_MALFORMED
+ *      (msg shorter than the control header, or a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMICTLRevokeClientIDIND(const uint8_t* msg, int len, uint8_t* serviceType, uint8_t* clientId);
+/** @} */
+/** @defgroup ctl_invalid_client_id InvalidClientID (0x0025)
+ *  @ingroup svc_ctl
+ *  @brief Indication: a message used a client id the modem does not know.
+ *  @{
+ */
+/** Parses a InvalidClientID indication (0x0025).
+ *  Decodes the mandatory item 0x01 (service type u8, client id u8); an indication carries no result item.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param serviceType Receives the service type of the invalid client id (required).
+ *  @param clientId Receives the invalid client id (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, serviceType, clientId),
+ *      ZOVQMI_ERR_NO_MESSAGE (the header names another id), ZOVQMI_ERR_NO_TLV (no item 0x01), ZOVQMI_ERR_MALFORMED
+ *      (msg shorter than the control header, or a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMICTLInvalidClientIDIND(const uint8_t* msg, int len, uint8_t* serviceType, uint8_t* clientId);
+/** @} */
+/** @defgroup ctl_set_data_format SetDataFormat (0x0026)
+ *  @ingroup svc_ctl
+ *  @brief Sets the format of the data path: QoS header and link-layer protocol.
+ *  @{
+ */
+/** Builds a SetDataFormat request (0x0026).
+ *  Writes the 6-byte control header and the mandatory item 0x01 (data format u8): 10 bytes.
+ *  The transaction id byte is the low byte of the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 10.
+ *  @param dataFormat Data format: 0 without QoS flow header, 1 with QoS flow header.
+ *  @return 10, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 10 (nothing written).
+ */
 ZOVQMI_API int zovQMICTLSetDataFormatReq(uint8_t* buf, int bufsize, uint8_t dataFormat);
+/** Appends the underlying link-layer protocol to a SetDataFormat request.
+ *  Extends a SetDataFormat request built by zovQMICTLSetDataFormatReq(): appends item 0x10 (u16 protocol), 5 bytes
+ *  in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param protocol Link-layer protocol of the data path: 1 IEEE 802.3 (Ethernet frames), 2 raw IP; sent
+ *      little-endian.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMICTLSetDataFormatReqAddUnderlyingLinkLayerProtocol(uint8_t* buf, int bufsize, uint16_t protocol);
+/** Parses a SetDataFormat response (0x0026).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (the
+ *      header names another id), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (msg shorter than the
+ *      control header, or a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMICTLSetDataFormatResp(const uint8_t* msg, int len, QmiResult* result);
+/** Reads the link-layer protocol the modem settled on from a SetDataFormat response.
+ *  Reads the optional item 0x10 (u16 protocol) of a SetDataFormat response (0x0026).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param protocol Receives the link-layer protocol in use: 1 IEEE 802.3, 2 raw IP (required).
+ *  @return The value length of item 0x10; ZOVQMI_ERR_ARG (null msg, protocol), ZOVQMI_ERR_NO_MESSAGE (the header
+ *      names another id), ZOVQMI_ERR_NO_TLV (no item 0x10), ZOVQMI_ERR_MALFORMED (msg shorter than the control
+ *      header, or a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMICTLSetDataFormatRespGetUnderlyingLinkLayerProtocol(const uint8_t* msg, int len,
                                                                         uint16_t* protocol);
+/** @} */
+/** @defgroup ctl_sync Sync (0x0027)
+ *  @ingroup svc_ctl
+ *  @brief Synchronises the control point with the modem; the modem announces a sync with the indication.
+ *  @{
+ */
+/** Builds a Sync request (0x0027).
+ *  Writes the 6-byte control header of message 0x0027 with an empty item area: 6 bytes.
+ *  The transaction id byte is the low byte of the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 6.
+ *  @return 6, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 6 (nothing written).
+ */
 ZOVQMI_API int zovQMICTLSyncReq(uint8_t* buf, int bufsize);
+/** Parses a Sync response (0x0027).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (the
+ *      header names another id), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (msg shorter than the
+ *      control header, or a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMICTLSyncResp(const uint8_t* msg, int len, QmiResult* result);
+/** Parses a Sync indication (0x0027).
+ *  Confirms the message id; the optional items are read with the INDGet functions.
+ *  The indication has no items; it shares the id of the request.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg), ZOVQMI_ERR_NO_MESSAGE (the header names
+ *      another id), ZOVQMI_ERR_MALFORMED (msg shorter than the control header).
+ */
 ZOVQMI_API int zovQMICTLSyncIND(const uint8_t* msg, int len);
+/** @} */
+/** @defgroup ctl_reg_pwr_save_mode RegPwrSaveMode and PwrSaveMode (0x0028)
+ *  @ingroup svc_ctl
+ *  @brief Registers for power-save state reports, and the PwrSaveMode indication that delivers them.
+ *  @{
+ */
+/** Builds a RegPwrSaveMode request (0x0028).
+ *  Writes the 6-byte control header and the mandatory item 0x01 (report u8): 10 bytes.
+ *  The transaction id byte is the low byte of the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 10.
+ *  @param value Whether to report power-save state changes: 0 do not report, 1 report; passed as it is.
+ *  @return 10, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 10 (nothing written).
+ */
 ZOVQMI_API int zovQMICTLRegPwrSaveModeReq(uint8_t* buf, int bufsize, uint8_t value);
+/** Parses a RegPwrSaveMode response (0x0028).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (the
+ *      header names another id), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (msg shorter than the
+ *      control header, or a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMICTLRegPwrSaveModeResp(const uint8_t* msg, int len, QmiResult* result);
+/** Parses a PwrSaveMode indication (0x0028).
+ *  Confirms the message id; the optional items are read with the INDGet functions.
+ *  The indication shares the id of the RegPwrSaveMode request.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg), ZOVQMI_ERR_NO_MESSAGE (the header names
+ *      another id), ZOVQMI_ERR_MALFORMED (msg shorter than the control header).
+ */
 ZOVQMI_API int zovQMICTLPwrSaveModeIND(const uint8_t* msg, int len);
+/** Reads the power-save state report of a PwrSaveMode indication.
+ *  Reads the optional item 0x10 (two u32, little-endian on the wire, handed out in wire order) of a PwrSaveMode
+ *  indication (0x0028).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param first Receives the first u32 of the report, the modem's power-save state value (required).
+ *  @param second Receives the second u32 of the report, as the modem defines it (required).
+ *  @return The value length of item 0x10; ZOVQMI_ERR_ARG (null msg, first, second), ZOVQMI_ERR_NO_MESSAGE (the
+ *      header names another id), ZOVQMI_ERR_NO_TLV (no item 0x10), ZOVQMI_ERR_MALFORMED (msg shorter than the
+ *      control header, or a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMICTLPwrSaveModeINDGetPowerSaveStateReport(const uint8_t* msg, int len, uint32_t* first,
                                                               uint32_t* second);
+/** @} */
+/** @defgroup ctl_config_pwr_save_settings ConfigPwrSaveSettings (0x0029)
+ *  @ingroup svc_ctl
+ *  @brief Chooses which indications of a service the modem still sends in a power-save state.
+ *  @{
+ */
+/** Builds a ConfigPwrSaveSettings request (0x0029).
+ *  Writes the 6-byte control header and the mandatory item 0x01 (u32 power-save state, u8 service type): 14 bytes.
+ *  The transaction id byte is the low byte of the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 14.
+ *  @param powerSaveState Power-save state the setting applies to, as the modem numbers its states; sent
+ *      little-endian.
+ *  @param serviceType Service whose indications are configured, a ZOVQMI_SERVICE_* value.
+ *  @return 14, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 14 (nothing written).
+ */
 ZOVQMI_API int zovQMICTLConfigPwrSaveSettingsReq(uint8_t* buf, int bufsize, uint32_t powerSaveState,
                                                  uint8_t serviceType);
+/** Appends the set of indications permitted in that power-save state.
+ *  Extends a ConfigPwrSaveSettings request built by zovQMICTLConfigPwrSaveSettingsReq(): appends item 0x11 (the
+ *  caller's bytes: the permitted indication set), 3 + length bytes.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param length Number of bytes of data; 0 appends an empty item.
+ *  @param data The permitted indication set as the modem expects it (message ids), copied as it is; may be null
+ *      when length is 0.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf, or non-zero length with null data),
+ *      ZOVQMI_ERR_NO_ROOM (the item does not fit bufsize; request unchanged), ZOVQMI_ERR_MALFORMED (length above
+ *      1024).
+ */
 ZOVQMI_API int zovQMICTLConfigPwrSaveSettingsReqAddPermittedIndicationSet(uint8_t* buf, int bufsize, uint16_t length,
                                                                           const uint8_t* data);
+/** Parses a ConfigPwrSaveSettings response (0x0029).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (the
+ *      header names another id), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (msg shorter than the
+ *      control header, or a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMICTLConfigPwrSaveSettingsResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup ctl_set_pwr_save_mode SetPwrSaveMode (0x002A)
+ *  @ingroup svc_ctl
+ *  @brief Puts the modem into a power-save state.
+ *  @{
+ */
+/** Builds a SetPwrSaveMode request (0x002A).
+ *  Writes the 6-byte control header and the mandatory item 0x01 (u32 power-save mode): 13 bytes.
+ *  The transaction id byte is the low byte of the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 13.
+ *  @param powerSaveMode Power-save state to enter, as the modem numbers its states; sent little-endian.
+ *  @return 13, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 13 (nothing written).
+ */
 ZOVQMI_API int zovQMICTLSetPwrSaveModeReq(uint8_t* buf, int bufsize, uint32_t powerSaveMode);
+/** Parses a SetPwrSaveMode response (0x002A).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (the
+ *      header names another id), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (msg shorter than the
+ *      control header, or a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMICTLSetPwrSaveModeResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup ctl_get_pwr_save_mode GetPwrSaveMode (0x002B)
+ *  @ingroup svc_ctl
+ *  @brief Reads the modem's current power-save state.
+ *  @{
+ */
+/** Builds a GetPwrSaveMode request (0x002B).
+ *  Writes the 6-byte control header of message 0x002B with an empty item area: 6 bytes.
+ *  The transaction id byte is the low byte of the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 6.
+ *  @return 6, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 6 (nothing written).
+ */
 ZOVQMI_API int zovQMICTLGetPwrSaveModeReq(uint8_t* buf, int bufsize);
+/** Parses a GetPwrSaveMode response (0x002B).
+ *  Stores the result item 0x02 in result, then decodes the mandatory item 0x01 (u32 power-save mode).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @param powerSaveMode Receives the current power-save state (u32, native order) (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result, powerSaveMode),
+ *      ZOVQMI_ERR_NO_MESSAGE (the header names another id), ZOVQMI_ERR_NO_TLV (no result item),
+ *      ZOVQMI_ERR_NO_MANDATORY (no item 0x01; result already filled), ZOVQMI_ERR_MALFORMED (msg shorter than the
+ *      control header, or a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMICTLGetPwrSaveModeResp(const uint8_t* msg, int len, QmiResult* result, uint32_t* powerSaveMode);
+/** @} */
 
 /* ---------------------------------------------------------------- WDS -- */
+/** @defgroup svc_wds WDS: wireless data service (service 1)
+ *  @brief Packet data calls, their statistics and indications, data profiles and runtime settings.
+ *  Composite profile items (UMTS, GPRS and LTE QoS, TFT filters) cross the interface as byte pointers to the
+ *  packed records WDSUMTSQoS, WDSGPRSQoS, WDSLTEQoS and WDSTFTFilter, IPv6 addresses as 16 bytes in network
+ *  order, and the channel rate as a WDSChannelRate.  IPv4 addresses are u32 numbers (192.168.0.1 is
+ *  0xC0A80001), little-endian on the wire.
+ */
 
 #pragma pack(push, 1)
 
-/* WDS: the current channel rate (16 bytes): four u32 as on the wire. */
+/** The channel rates of GetCurrentChannelRate (item 0x01), 16 bytes, as on the wire.
+ *  @ingroup svc_wds
+ *  Multi-byte fields hold little-endian bytes on every host, as on the wire.
+ */
 typedef struct WDSChannelRate {
-    uint32_t rates[4];
+    uint32_t rates[4]; /**< Bits per second: current transmit, current receive, maximum transmit, maximum receive. */
 } WDSChannelRate;
 
-/* WDS: one entry of the profile list: profile type, profile index, name
- * length and a caller-owned buffer that receives the name (may be null).
- * 7 bytes on 32-bit hosts. */
+/** One profile of the GetProfileList response; 7 bytes on 32-bit hosts (11 on 64-bit ones).
+ *  @ingroup svc_wds
+ *  The caller sets name before the call; the parser fills the other fields and copies the name.
+ */
 typedef struct WDSProfileListEntry {
-    uint8_t profileType;
-    uint8_t profileIndex;
-    uint8_t nameLength;
-    uint8_t* name;
+    uint8_t profileType;  /**< Profile type: 0 3GPP, 1 3GPP2. */
+    uint8_t profileIndex; /**< Index of the profile. */
+    uint8_t nameLength;   /**< Length of the profile name in bytes. */
+    uint8_t* name;        /**< Caller's buffer of 255 bytes for the name (not NUL-terminated), or null to skip it. */
 } WDSProfileListEntry;
 
-/* WDS: UMTS quality of service of a profile (33 bytes, wire layout). */
+/** UMTS quality of service of a profile (items 0x17 and 0x18), 33 bytes in wire layout.
+ *  @ingroup svc_wds
+ *  Multi-byte fields hold little-endian bytes on every host, as on the wire.
+ *  A value of 0 asks for the subscribed value.
+ */
 typedef struct WDSUMTSQoS {
-    uint8_t trafficClass;
-    uint32_t maxUplinkBitrate;
-    uint32_t maxDownlinkBitrate;
-    uint32_t guaranteedUplinkBitrate;
-    uint32_t guaranteedDownlinkBitrate;
-    uint8_t deliveryOrder;
-    uint32_t maxSDUSize;
-    uint8_t sduErrorRatio;
-    uint8_t residualBitErrorRatio;
-    uint8_t deliveryErroneousSDUs;
-    uint32_t transferDelay;
-    uint32_t trafficHandlingPriority;
+    uint8_t trafficClass;               /**< 0 subscribed, 1 conversational, 2 streaming, 3 interactive,
+                                             4 background. */
+    uint32_t maxUplinkBitrate;          /**< Maximum uplink bit rate, bits per second. */
+    uint32_t maxDownlinkBitrate;        /**< Maximum downlink bit rate, bits per second. */
+    uint32_t guaranteedUplinkBitrate;   /**< Guaranteed uplink bit rate, bits per second. */
+    uint32_t guaranteedDownlinkBitrate; /**< Guaranteed downlink bit rate, bits per second. */
+    uint8_t deliveryOrder;              /**< 0 subscribed, 1 in order, 2 without order. */
+    uint32_t maxSDUSize;                /**< Largest service data unit, bytes. */
+    uint8_t sduErrorRatio;              /**< SDU error ratio, coded as the modem defines it. */
+    uint8_t residualBitErrorRatio;      /**< Residual bit error ratio, coded as the modem defines it. */
+    uint8_t deliveryErroneousSDUs;      /**< 0 subscribed, 1 no detection, 2 delivered, 3 not delivered. */
+    uint32_t transferDelay;             /**< Transfer delay, milliseconds. */
+    uint32_t trafficHandlingPriority;   /**< Traffic handling priority, 1 (highest) to 3. */
 } WDSUMTSQoS;
 
-/* WDS: GPRS quality of service of a profile (20 bytes, wire layout). */
+/** GPRS quality of service of a profile (items 0x19 and 0x1A), 20 bytes in wire layout.
+ *  @ingroup svc_wds
+ *  Multi-byte fields hold little-endian bytes on every host, as on the wire.
+ *  Each field is a class number of the GPRS QoS profile; 0 asks for the subscribed class.
+ */
 typedef struct WDSGPRSQoS {
-    uint32_t precedenceClass;
-    uint32_t delayClass;
-    uint32_t reliabilityClass;
-    uint32_t peakThroughputClass;
-    uint32_t meanThroughputClass;
+    uint32_t precedenceClass;     /**< Precedence class. */
+    uint32_t delayClass;          /**< Delay class. */
+    uint32_t reliabilityClass;    /**< Reliability class. */
+    uint32_t peakThroughputClass; /**< Peak throughput class. */
+    uint32_t meanThroughputClass; /**< Mean throughput class. */
 } WDSGPRSQoS;
 
-/* WDS: a traffic flow template filter of a profile (39 bytes, wire layout);
- * the 21 leading bytes travel as they are. */
+/** A traffic flow template filter of a profile (items 0x23 and 0x24), 39 bytes in wire layout.
+ *  @ingroup svc_wds
+ *  Multi-byte fields hold little-endian bytes on every host, as on the wire.
+ */
 typedef struct WDSTFTFilter {
-    uint8_t leading[21];
-    uint16_t destinationPortStart;
-    uint16_t destinationPortRange;
-    uint16_t sourcePortStart;
-    uint16_t sourcePortRange;
-    uint32_t securityParameterIndex;
-    uint16_t typeOfServiceMask;
-    uint32_t flowLabel;
+    uint8_t leading[21];             /**< Filter id, evaluation precedence, IP version, 16-byte source address,
+                                          mask and next protocol; copied as they are. */
+    uint16_t destinationPortStart;   /**< First destination port. */
+    uint16_t destinationPortRange;   /**< Number of destination ports from the first. */
+    uint16_t sourcePortStart;        /**< First source port. */
+    uint16_t sourcePortRange;        /**< Number of source ports from the first. */
+    uint32_t securityParameterIndex; /**< IPsec security parameter index. */
+    uint16_t typeOfServiceMask;      /**< Type of service (first byte) and its mask (second byte). */
+    uint32_t flowLabel;              /**< IPv6 flow label. */
 } WDSTFTFilter;
 
-/* WDS: LTE quality of service of a profile (17 bytes, wire layout). */
+/** LTE quality of service of a profile (item 0x2E), 17 bytes in wire layout.
+ *  @ingroup svc_wds
+ *  Multi-byte fields hold little-endian bytes on every host, as on the wire.
+ */
 typedef struct WDSLTEQoS {
-    uint8_t qci;
-    uint32_t guaranteedUplinkBitrate;
-    uint32_t guaranteedDownlinkBitrate;
-    uint32_t maxUplinkBitrate;
-    uint32_t maxDownlinkBitrate;
+    uint8_t qci;                        /**< QoS class identifier. */
+    uint32_t guaranteedUplinkBitrate;   /**< Guaranteed uplink bit rate, bits per second. */
+    uint32_t guaranteedDownlinkBitrate; /**< Guaranteed downlink bit rate, bits per second. */
+    uint32_t maxUplinkBitrate;          /**< Maximum uplink bit rate, bits per second. */
+    uint32_t maxDownlinkBitrate;        /**< Maximum downlink bit rate, bits per second. */
 } WDSLTEQoS;
 
-/* WDS: one entry of a runtime name list (P-CSCF names, domain names):
- * name length and a caller-owned buffer that receives the name (may be
- * null).  6 bytes on 32-bit hosts. */
+/** One name of a runtime name list (P-CSCF names, domain names); 6 bytes on 32-bit hosts (10 on 64-bit ones).
+ *  @ingroup svc_wds
+ *  The caller sets name before the call; the parser fills length and copies the name.  length holds
+ *  little-endian bytes on every host.
+ */
 typedef struct WDSNameListEntry {
-    uint16_t length;
-    uint8_t* name;
+    uint16_t length; /**< Length of the name in bytes. */
+    uint8_t* name;   /**< Caller's buffer of length bytes for the name (not NUL-terminated), or null to skip it. */
 } WDSNameListEntry;
 
 #pragma pack(pop)
 
-/* Composite profile items (UMTS, GPRS, LTE QoS, TFT filters) and IPv6
- * addresses cross as byte pointers to the records above (or to 16 bytes in
- * network order); the channel rate likewise.  Profile item parsers take the
- * id of the response they read: 0x002B, 0x002C and, for item types 0x10 to
- * 0x1E, 0x002D; any other id gives -1. */
+/** @defgroup wds_reset Reset (0x0000)
+ *  @ingroup svc_wds
+ *  @brief Resets the WDS state of this client.
+ *  @{
+ */
+/** Builds a Reset request (0x0000).
+ *  Writes the 7-byte service header of message 0x0000 with an empty item area: 7 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 7.
+ *  @return 7, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 7 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSResetReq(uint8_t* buf, int bufsize);
+/** Parses a Reset response (0x0000).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  @note Deliberate: the message walk takes a buffer of 7 bytes or less for message 0x0000 with an empty item area,
+ *      so such a buffer gives ZOVQMI_ERR_NO_TLV rather than ZOVQMI_ERR_NO_MESSAGE.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x0000 in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSResetResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wds_set_event_report SetEventReport and EventReport (0x0001)
+ *  @ingroup svc_wds
+ *  @brief Chooses what the modem reports in EventReport indications, and reads those indications.
+ *  The indication shares the id 0x0001 of the request; its items are read one by one with the INDGet functions.
+ *  @{
+ */
+/** Builds a SetEventReport request (0x0001).
+ *  Writes the 7-byte service header of message 0x0001 with an empty item area: 7 bytes.
+ *  Takes the next transaction id.
+ *  Append the reports wanted with the zovQMIWDSSetEventReportReqAdd functions.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 7.
+ *  @return 7, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 7 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSSetEventReportReq(uint8_t* buf, int bufsize);
+/** Asks for channel rate reports.
+ *  Extends a SetEventReport request built by zovQMIWDSSetEventReportReq(): appends item 0x10 (u8 report indicator:
+ *  0 do not report, 1 report), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param report 0 do not report, 1 report the current channel rate (item 0x16 of the indication).
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSSetEventReportReqAddCurrentChannelRateIndicator(uint8_t* buf, int bufsize, uint8_t report);
+/** Asks for periodic transfer statistics.
+ *  Extends a SetEventReport request built by zovQMIWDSSetEventReportReq(): appends item 0x11 (u8 period, u32 mask),
+ *  8 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param period Seconds between two statistics reports; 0 stops them.
+ *  @param mask Statistics wanted, bits: 0x01 Tx packets OK, 0x02 Rx packets OK, 0x04 Tx errors, 0x08 Rx errors,
+ *      0x10 Tx overflows, 0x20 Rx overflows, 0x40 Tx bytes OK, 0x80 Rx bytes OK; sent little-endian.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSSetEventReportReqAddTransferStatisticsIndicator(uint8_t* buf, int bufsize, uint8_t period,
                                                                         uint32_t mask);
+/** Asks for data bearer technology reports in their older form.
+ *  Extends a SetEventReport request built by zovQMIWDSSetEventReportReq(): appends item 0x12 (u8 report indicator:
+ *  0 do not report, 1 report), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param report 0 do not report, 1 report the data bearer technology (item 0x17 of the indication).
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSSetEventReportReqAddCurrentDataBearerTechnologyIndicatorDeprecated(uint8_t* buf, int bufsize,
                                                                                            uint8_t report);
+/** Asks for dormancy status reports.
+ *  Extends a SetEventReport request built by zovQMIWDSSetEventReportReq(): appends item 0x13 (u8 report indicator:
+ *  0 do not report, 1 report), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param report 0 do not report, 1 report the dormancy status (item 0x18 of the indication).
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSSetEventReportReqAddDormancyStatusIndicator(uint8_t* buf, int bufsize, uint8_t report);
+/** Asks for current data bearer technology reports.
+ *  Extends a SetEventReport request built by zovQMIWDSSetEventReportReq(): appends item 0x15 (u8 report indicator:
+ *  0 do not report, 1 report), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param report 0 do not report, 1 report the current data bearer technology (item 0x1D of the indication).
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSSetEventReportReqAddCurrentDataBearerTechnologyIndicator(uint8_t* buf, int bufsize,
                                                                                  uint8_t report);
+/** Parses a SetEventReport response (0x0001).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x0001 in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
+/** Parses an EventReport indication (0x0001).
+ *  Confirms the message id; the optional items are read with the INDGet functions.
+ *  The items present are not examined here.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg), ZOVQMI_ERR_NO_MESSAGE (no message 0x0001
+ *      in msg).
+ */
 ZOVQMI_API int zovQMIWDSEventReportIND(const uint8_t* msg, int len);
+/** Reads the count of packets sent without error.
+ *  Reads the optional item 0x10 (u32) of a EventReport indication (0x0001).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of packets sent without error (u32, native order) (required).
+ *  @return The value length of item 0x10; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0001 in msg), ZOVQMI_ERR_NO_TLV (no item 0x10), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSEventReportINDGetTxPacketsOK(const uint8_t* msg, int len, uint32_t* count);
+/** Reads the count of packets received without error.
+ *  Reads the optional item 0x11 (u32) of a EventReport indication (0x0001).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of packets received without error (u32, native order) (required).
+ *  @return The value length of item 0x11; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0001 in msg), ZOVQMI_ERR_NO_TLV (no item 0x11), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSEventReportINDGetRxPacketsOK(const uint8_t* msg, int len, uint32_t* count);
+/** Reads the count of outgoing packets with errors.
+ *  Reads the optional item 0x12 (u32) of a EventReport indication (0x0001).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of outgoing packets with errors (u32, native order) (required).
+ *  @return The value length of item 0x12; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0001 in msg), ZOVQMI_ERR_NO_TLV (no item 0x12), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSEventReportINDGetTxPacketsErrors(const uint8_t* msg, int len, uint32_t* count);
+/** Reads the count of incoming packets with errors.
+ *  Reads the optional item 0x13 (u32) of a EventReport indication (0x0001).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of incoming packets with errors (u32, native order) (required).
+ *  @return The value length of item 0x13; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0001 in msg), ZOVQMI_ERR_NO_TLV (no item 0x13), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSEventReportINDGetRxPacketsErrors(const uint8_t* msg, int len, uint32_t* count);
+/** Reads the count of transmit overflows.
+ *  Reads the optional item 0x14 (u32) of a EventReport indication (0x0001).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of outgoing packets dropped for overflow (u32, native order) (required).
+ *  @return The value length of item 0x14; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0001 in msg), ZOVQMI_ERR_NO_TLV (no item 0x14), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSEventReportINDGetTxOverflows(const uint8_t* msg, int len, uint32_t* count);
+/** Reads the count of receive overflows.
+ *  Reads the optional item 0x15 (u32) of a EventReport indication (0x0001).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of incoming packets dropped for overflow (u32, native order) (required).
+ *  @return The value length of item 0x15; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0001 in msg), ZOVQMI_ERR_NO_TLV (no item 0x15), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSEventReportINDGetRxOverflows(const uint8_t* msg, int len, uint32_t* count);
+/** Reads the current channel rate.
+ *  Reads the optional item 0x16 (two u32 in wire order) of a EventReport indication (0x0001).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param first Receives the first u32, the current transmit rate in bits per second (required).
+ *  @param second Receives the second u32, the current receive rate in bits per second (required).
+ *  @return The value length of item 0x16; ZOVQMI_ERR_ARG (null msg, first, second), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x0001 in msg), ZOVQMI_ERR_NO_TLV (no item 0x16), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSEventReportINDGetChannelRate(const uint8_t* msg, int len, uint32_t* first, uint32_t* second);
+/** Reads the data bearer technology in its older form.
+ *  Reads the optional item 0x17 (u8) of a EventReport indication (0x0001).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param technology Receives the data bearer technology byte as the modem numbers it (older form) (required).
+ *  @return The value length of item 0x17; ZOVQMI_ERR_ARG (null msg, technology), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0001 in msg), ZOVQMI_ERR_NO_TLV (no item 0x17), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSEventReportINDGetDataBearerTechnology(const uint8_t* msg, int len, uint8_t* technology);
+/** Reads the dormancy status.
+ *  Reads the optional item 0x18 (u8) of a EventReport indication (0x0001).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param status Receives the dormancy status: 1 traffic channel dormant, 2 traffic channel active (required).
+ *  @return The value length of item 0x18; ZOVQMI_ERR_ARG (null msg, status), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0001 in msg), ZOVQMI_ERR_NO_TLV (no item 0x18), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSEventReportINDGetDormancyStatus(const uint8_t* msg, int len, uint8_t* status);
+/** Reads the count of bytes sent without error.
+ *  Reads the optional item 0x19 (u64, low 32 bits first) of a EventReport indication (0x0001).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of bytes sent without error (u64, native order) (required).
+ *  @return The value length of item 0x19; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0001 in msg), ZOVQMI_ERR_NO_TLV (no item 0x19), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSEventReportINDGetTxBytesOK(const uint8_t* msg, int len, uint64_t* count);
+/** Reads the count of bytes received without error.
+ *  Reads the optional item 0x1A (u64, low 32 bits first) of a EventReport indication (0x0001).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of bytes received without error (u64, native order) (required).
+ *  @return The value length of item 0x1A; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0001 in msg), ZOVQMI_ERR_NO_TLV (no item 0x1A), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSEventReportINDGetRxBytesOK(const uint8_t* msg, int len, uint64_t* count);
+/** Reads the current data bearer technology.
+ *  Reads the optional item 0x1D (the 9-byte data bearer record: u8, then two u32) of a EventReport indication
+ *  (0x0001).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param technology Receives the current network: 0 unknown, 1 3GPP2, 2 3GPP (required).
+ *  @param first Receives the first u32, the radio access technology mask as the modem defines it (required).
+ *  @param second Receives the second u32, the service option mask as the modem defines it (required).
+ *  @return The value length of item 0x1D; ZOVQMI_ERR_ARG (null msg, technology, first, second),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message 0x0001 in msg), ZOVQMI_ERR_NO_TLV (no item 0x1D), ZOVQMI_ERR_MALFORMED (a
+ *      field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSEventReportINDGetCurrentDataBearerTechnology(const uint8_t* msg, int len,
                                                                      uint8_t* technology, uint32_t* first,
                                                                      uint32_t* second);
+/** @} */
+/** @defgroup wds_abort Abort (0x0002)
+ *  @ingroup svc_wds
+ *  @brief Aborts a request still in progress.
+ *  @{
+ */
+/** Builds a Abort request (0x0002).
+ *  Writes the 7-byte service header and the mandatory item 0x01 (u16 transaction id): 12 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 12.
+ *  @param value Transaction id of the request to abort; sent little-endian.
+ *  @return 12, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 12 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSAbortReq(uint8_t* buf, int bufsize, uint16_t value);
+/** Parses a Abort response (0x0002).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x0002 in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSAbortResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wds_start_network_interface StartNetworkInterface (0x0020)
+ *  @ingroup svc_wds
+ *  @brief Starts a packet data call and returns its handle; on failure the response tells why.
+ *  Item 0x33 has no builder.
+ *  @{
+ */
+/** Builds a StartNetworkInterface request (0x0020).
+ *  Writes the 7-byte service header of message 0x0020 with an empty item area: 7 bytes.
+ *  Takes the next transaction id.
+ *  Every setting is optional and appended with the zovQMIWDSStartNetworkInterfaceReqAdd functions.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 7.
+ *  @return 7, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 7 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReq(uint8_t* buf, int bufsize);
+/** Appends the preferred primary DNS server.
+ *  Extends a StartNetworkInterface request built by zovQMIWDSStartNetworkInterfaceReq(): appends item 0x10 (u32
+ *  IPv4 address), 7 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param address Preferred primary DNS server, IPv4 as a u32 number (192.168.0.1 is 0xC0A80001); sent
+ *      little-endian.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddPrimaryDNSAddressPreference(uint8_t* buf, int bufsize,
                                                                                uint32_t address);
+/** Appends the preferred secondary DNS server.
+ *  Extends a StartNetworkInterface request built by zovQMIWDSStartNetworkInterfaceReq(): appends item 0x11 (u32
+ *  IPv4 address), 7 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param address Preferred secondary DNS server, IPv4 as a u32 number (192.168.0.1 is 0xC0A80001); sent
+ *      little-endian.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddSecondaryDNSAddressPreference(uint8_t* buf, int bufsize,
                                                                                  uint32_t address);
+/** Appends the preferred primary NetBIOS name server.
+ *  Extends a StartNetworkInterface request built by zovQMIWDSStartNetworkInterfaceReq(): appends item 0x12 (u32
+ *  IPv4 address), 7 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param address Preferred primary NetBIOS name server, IPv4 as a u32 number (192.168.0.1 is 0xC0A80001); sent
+ *      little-endian.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddPrimaryNBNSAddressPreference(uint8_t* buf, int bufsize,
                                                                                 uint32_t address);
+/** Appends the preferred secondary NetBIOS name server.
+ *  Extends a StartNetworkInterface request built by zovQMIWDSStartNetworkInterfaceReq(): appends item 0x13 (u32
+ *  IPv4 address), 7 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param address Preferred secondary NetBIOS name server, IPv4 as a u32 number (192.168.0.1 is 0xC0A80001); sent
+ *      little-endian.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddSecondaryNBNSAddressPreference(uint8_t* buf, int bufsize,
                                                                                   uint32_t address);
+/** Appends the access point name.
+ *  Extends a StartNetworkInterface request built by zovQMIWDSStartNetworkInterfaceReq(): appends item 0x14 (the
+ *  access point name), 3 + length bytes.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param length Length of the access point name in bytes; 0 appends an empty item.
+ *  @param data The access point name, not NUL-terminated, copied as it is; may be null when length is 0.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf, or non-zero length with null data),
+ *      ZOVQMI_ERR_NO_ROOM (the item does not fit bufsize; request unchanged), ZOVQMI_ERR_MALFORMED (length above
+ *      1024).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddContextAPNName(uint8_t* buf, int bufsize, uint16_t length,
                                                                   const uint8_t* data);
+/** Appends the preferred IPv4 address.
+ *  Extends a StartNetworkInterface request built by zovQMIWDSStartNetworkInterfaceReq(): appends item 0x15 (u32
+ *  IPv4 address), 7 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param address Preferred IPv4 address of the call as a u32 number (192.168.0.1 is 0xC0A80001); sent
+ *      little-endian.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddIPAddressPreference(uint8_t* buf, int bufsize, uint32_t address);
+/** Appends the authentication protocols allowed.
+ *  Extends a StartNetworkInterface request built by zovQMIWDSStartNetworkInterfaceReq(): appends item 0x16 (u8 bit
+ *  mask), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param preference Authentication protocols allowed, bits: 0x01 PAP, 0x02 CHAP (0x03 either, 0 none).
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddAuthenticationPreference(uint8_t* buf, int bufsize,
                                                                             uint8_t preference);
+/** Appends the user name for authentication.
+ *  Extends a StartNetworkInterface request built by zovQMIWDSStartNetworkInterfaceReq(): appends item 0x17 (the
+ *  user name), 3 + length bytes.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param length Length of the user name in bytes; 0 appends an empty item.
+ *  @param data The user name, not NUL-terminated, copied as it is; may be null when length is 0.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf, or non-zero length with null data),
+ *      ZOVQMI_ERR_NO_ROOM (the item does not fit bufsize; request unchanged), ZOVQMI_ERR_MALFORMED (length above
+ *      1024).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddUsername(uint8_t* buf, int bufsize, uint16_t length,
                                                             const uint8_t* data);
+/** Appends the password for authentication.
+ *  Extends a StartNetworkInterface request built by zovQMIWDSStartNetworkInterfaceReq(): appends item 0x18 (the
+ *  password), 3 + length bytes.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param length Length of the password in bytes; 0 appends an empty item.
+ *  @param data The password, not NUL-terminated, copied as it is; may be null when length is 0.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf, or non-zero length with null data),
+ *      ZOVQMI_ERR_NO_ROOM (the item does not fit bufsize; request unchanged), ZOVQMI_ERR_MALFORMED (length above
+ *      1024).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddPassword(uint8_t* buf, int bufsize, uint16_t length,
                                                             const uint8_t* data);
+/** Appends the IP family of the call.
+ *  Extends a StartNetworkInterface request built by zovQMIWDSStartNetworkInterfaceReq(): appends item 0x19 (u8), 4
+ *  bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param family IP family of the call: 4 IPv4, 6 IPv6, 8 unspecified.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddIPFamilyPreference(uint8_t* buf, int bufsize, uint8_t family);
+/** Appends the technologies allowed.
+ *  Extends a StartNetworkInterface request built by zovQMIWDSStartNetworkInterfaceReq(): appends item 0x30 (u8 bit
+ *  mask), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param preference Technologies allowed, bits: 0x01 3GPP, 0x02 3GPP2.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddTechnologyPreference(uint8_t* buf, int bufsize,
                                                                         uint8_t preference);
+/** Appends the 3GPP profile to use.
+ *  Extends a StartNetworkInterface request built by zovQMIWDSStartNetworkInterfaceReq(): appends item 0x31 (u8
+ *  profile index), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param profileIndex Index of the 3GPP profile to start the call with.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAdd3GPPConfiguredProfileIdentifier(uint8_t* buf, int bufsize,
                                                                                    uint8_t profileIndex);
+/** Appends the 3GPP2 profile to use.
+ *  Extends a StartNetworkInterface request built by zovQMIWDSStartNetworkInterfaceReq(): appends item 0x32 (u8
+ *  profile index), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param profileIndex Index of the 3GPP2 profile to start the call with.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAdd3GPP2ConfiguredProfileIdentifier(uint8_t* buf, int bufsize,
                                                                                     uint8_t profileIndex);
+/** Appends the extended technology preference.
+ *  Extends a StartNetworkInterface request built by zovQMIWDSStartNetworkInterfaceReq(): appends item 0x34 (u16), 5
+ *  bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param preference Extended technology preference as the modem numbers it; sent little-endian (0x8001 appends 34
+ *      02 00 01 80).
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddExtendedTechnologyPreference(uint8_t* buf, int bufsize,
                                                                                 uint16_t preference);
+/** Appends the call type.
+ *  Extends a StartNetworkInterface request built by zovQMIWDSStartNetworkInterfaceReq(): appends item 0x35 (u8), 4
+ *  bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param callType Call type: 0 laptop (tethered) call, 1 embedded call.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceReqAddCallTypeIdentifier(uint8_t* buf, int bufsize, uint8_t callType);
+/** Parses a StartNetworkInterface response (0x0020).
+ *  Stores the result item 0x02 in result, then decodes the mandatory item 0x01 (u32 packet data handle).
+ *  When result->result says failure, fetch the call end reason items.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @param handle Receives the packet data handle (u32, native order) that StopNetworkInterface takes (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result, handle), ZOVQMI_ERR_NO_MESSAGE
+ *      (no message 0x0020 in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_NO_MANDATORY (no item 0x01;
+ *      result already filled), ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceResp(const uint8_t* msg, int len, QmiResult* result, uint32_t* handle);
+/** Reads why the call could not be started.
+ *  Reads the optional item 0x10 (u16) of a StartNetworkInterface response (0x0020).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param reason Receives the call end reason code as the modem numbers it (required).
+ *  @return The value length of item 0x10; ZOVQMI_ERR_ARG (null msg, reason), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0020 in msg), ZOVQMI_ERR_NO_TLV (no item 0x10), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceRespGetCallEndReason(const uint8_t* msg, int len, uint16_t* reason);
+/** Reads the detailed reason why the call could not be started.
+ *  Reads the optional item 0x11 (u16 reason type, u16 reason) of a StartNetworkInterface response (0x0020).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param type Receives the reason type: 1 mobile IP, 2 internal, 3 call manager, 6 3GPP, 7 PPP, 8 EHRPD, 9 IPv6
+ *      (required).
+ *  @param reason Receives the reason code within that type (required).
+ *  @return The value length of item 0x11; ZOVQMI_ERR_ARG (null msg, type, reason), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x0020 in msg), ZOVQMI_ERR_NO_TLV (no item 0x11), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSStartNetworkInterfaceRespGetVerboseCallEndReason(const uint8_t* msg, int len, uint16_t* type,
                                                                          uint16_t* reason);
+/** @} */
+/** @defgroup wds_stop_network_interface StopNetworkInterface (0x0021)
+ *  @ingroup svc_wds
+ *  @brief Ends a packet data call.
+ *  @{
+ */
+/** Builds a StopNetworkInterface request (0x0021).
+ *  Writes the 7-byte service header and the mandatory item 0x01 (u32 packet data handle): 14 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 14.
+ *  @param handle The packet data handle zovQMIWDSStartNetworkInterfaceResp() returned; sent little-endian.
+ *  @return 14, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 14 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSStopNetworkInterfaceReq(uint8_t* buf, int bufsize, uint32_t handle);
+/** Parses a StopNetworkInterface response (0x0021).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x0021 in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSStopNetworkInterfaceResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wds_get_pkt_srvc_status GetPktSrvcStatus and PktSrvcStatus (0x0022)
+ *  @ingroup svc_wds
+ *  @brief Reads the state of the packet data connection, and the indication that announces its changes.
+ *  The indication shares the id 0x0022 of the request.
+ *  @{
+ */
+/** Builds a GetPktSrvcStatus request (0x0022).
+ *  Writes the 7-byte service header of message 0x0022 with an empty item area: 7 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 7.
+ *  @return 7, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 7 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetPktSrvcStatusReq(uint8_t* buf, int bufsize);
+/** Parses a GetPktSrvcStatus response (0x0022).
+ *  Stores the result item 0x02 in result, then decodes the mandatory item 0x01 (u8 connection status).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @param status Receives the connection status: 1 disconnected, 2 connected, 3 suspended, 4 authenticating
+ *      (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result, status), ZOVQMI_ERR_NO_MESSAGE
+ *      (no message 0x0022 in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_NO_MANDATORY (no item 0x01;
+ *      result already filled), ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetPktSrvcStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status);
+/** Parses a PktSrvcStatus indication (0x0022).
+ *  Decodes the mandatory item 0x01 (two bytes in wire order); an indication carries no result item.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param status Receives the first byte, the connection status: 1 disconnected, 2 connected, 3 suspended, 4
+ *      authenticating (required).
+ *  @param second Receives the second byte, the reconfiguration flag: 1 when the interface must be configured again
+ *      (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, status, second), ZOVQMI_ERR_NO_MESSAGE
+ *      (no message 0x0022 in msg), ZOVQMI_ERR_NO_TLV (no item 0x01), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSPktSrvcStatusIND(const uint8_t* msg, int len, uint8_t* status, uint8_t* second);
+/** Reads why the call ended.
+ *  Reads the optional item 0x10 (u16) of a PktSrvcStatus indication (0x0022).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param reason Receives the call end reason code as the modem numbers it (required).
+ *  @return The value length of item 0x10; ZOVQMI_ERR_ARG (null msg, reason), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0022 in msg), ZOVQMI_ERR_NO_TLV (no item 0x10), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSPktSrvcStatusINDGetCallEndReason(const uint8_t* msg, int len, uint16_t* reason);
+/** Reads the detailed reason why the call ended.
+ *  Reads the optional item 0x11 (u16 reason type, u16 reason) of a PktSrvcStatus indication (0x0022).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param type Receives the reason type: 1 mobile IP, 2 internal, 3 call manager, 6 3GPP, 7 PPP, 8 EHRPD, 9 IPv6
+ *      (required).
+ *  @param reason Receives the reason code within that type (required).
+ *  @return The value length of item 0x11; ZOVQMI_ERR_ARG (null msg, type, reason), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x0022 in msg), ZOVQMI_ERR_NO_TLV (no item 0x11), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSPktSrvcStatusINDGetVerboseCallEndReason(const uint8_t* msg, int len, uint16_t* type,
                                                                 uint16_t* reason);
+/** Reads the IP family the status applies to.
+ *  Reads the optional item 0x12 (u8) of a PktSrvcStatus indication (0x0022).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param family Receives the IP family of the call: 4 IPv4, 6 IPv6 (required).
+ *  @return The value length of item 0x12; ZOVQMI_ERR_ARG (null msg, family), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0022 in msg), ZOVQMI_ERR_NO_TLV (no item 0x12), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSPktSrvcStatusINDGetIPFamily(const uint8_t* msg, int len, uint8_t* family);
+/** @} */
+/** @defgroup wds_get_current_channel_rate GetCurrentChannelRate (0x0023)
+ *  @ingroup svc_wds
+ *  @brief Reads the current and maximum channel rates.
+ *  @{
+ */
+/** Builds a GetCurrentChannelRate request (0x0023).
+ *  Writes the 7-byte service header of message 0x0023 with an empty item area: 7 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 7.
+ *  @return 7, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 7 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetCurrentChannelRateReq(uint8_t* buf, int bufsize);
+/** Parses a GetCurrentChannelRate response (0x0023).
+ *  Stores the result item 0x02 in result, then decodes the mandatory item 0x01 (the 16-byte channel rate record).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @param rates A WDSChannelRate (16 bytes) that receives the four u32 as on the wire, little-endian: current
+ *      transmit, current receive, maximum transmit and maximum receive rate in bits per second (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result, rates), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x0023 in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_NO_MANDATORY (no item 0x01; result
+ *      already filled), ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetCurrentChannelRateResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* rates);
+/** @} */
+/** @defgroup wds_get_pkt_statistics GetPktStatistics (0x0024)
+ *  @ingroup svc_wds
+ *  @brief Reads the packet and byte counters of the data call.
+ *  @{
+ */
+/** Builds a GetPktStatistics request (0x0024).
+ *  Writes the 7-byte service header and the mandatory item 0x01 (u32 statistics mask): 14 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 14.
+ *  @param mask Counters wanted, bits: 0x01 Tx packets OK, 0x02 Rx packets OK, 0x04 Tx errors, 0x08 Rx errors, 0x10
+ *      Tx overflows, 0x20 Rx overflows, 0x40 Tx bytes OK, 0x80 Rx bytes OK; sent little-endian.
+ *  @return 14, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 14 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetPktStatisticsReq(uint8_t* buf, int bufsize, uint32_t mask);
+/** Parses a GetPktStatistics response (0x0024).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  The counters are read with the zovQMIWDSGetPktStatisticsRespGet functions.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x0024 in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetPktStatisticsResp(const uint8_t* msg, int len, QmiResult* result);
+/** Reads the count of packets sent without error.
+ *  Reads the optional item 0x10 (u32) of a GetPktStatistics response (0x0024).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of packets sent without error (u32, native order) (required).
+ *  @return The value length of item 0x10; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0024 in msg), ZOVQMI_ERR_NO_TLV (no item 0x10), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetTxPacketsOK(const uint8_t* msg, int len, uint32_t* count);
+/** Reads the count of packets received without error.
+ *  Reads the optional item 0x11 (u32) of a GetPktStatistics response (0x0024).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of packets received without error (u32, native order) (required).
+ *  @return The value length of item 0x11; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0024 in msg), ZOVQMI_ERR_NO_TLV (no item 0x11), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetRxPacketsOK(const uint8_t* msg, int len, uint32_t* count);
+/** Reads the count of outgoing packets with errors.
+ *  Reads the optional item 0x12 (u32) of a GetPktStatistics response (0x0024).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of outgoing packets with errors (u32, native order) (required).
+ *  @return The value length of item 0x12; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0024 in msg), ZOVQMI_ERR_NO_TLV (no item 0x12), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetTxPacketsErrors(const uint8_t* msg, int len, uint32_t* count);
+/** Reads the count of incoming packets with errors.
+ *  Reads the optional item 0x13 (u32) of a GetPktStatistics response (0x0024).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of incoming packets with errors (u32, native order) (required).
+ *  @return The value length of item 0x13; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0024 in msg), ZOVQMI_ERR_NO_TLV (no item 0x13), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetRxPacketsErrors(const uint8_t* msg, int len, uint32_t* count);
+/** Reads the count of transmit overflows.
+ *  Reads the optional item 0x14 (u32) of a GetPktStatistics response (0x0024).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of outgoing packets dropped for overflow (u32, native order) (required).
+ *  @return The value length of item 0x14; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0024 in msg), ZOVQMI_ERR_NO_TLV (no item 0x14), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetTxOverflows(const uint8_t* msg, int len, uint32_t* count);
+/** Reads the count of receive overflows.
+ *  Reads the optional item 0x15 (u32) of a GetPktStatistics response (0x0024).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of incoming packets dropped for overflow (u32, native order) (required).
+ *  @return The value length of item 0x15; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0024 in msg), ZOVQMI_ERR_NO_TLV (no item 0x15), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetRxOverflows(const uint8_t* msg, int len, uint32_t* count);
+/** Reads the count of bytes sent without error.
+ *  Reads the optional item 0x19 (u64, low 32 bits first) of a GetPktStatistics response (0x0024).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of bytes sent without error (u64, native order) (required).
+ *  @return The value length of item 0x19; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0024 in msg), ZOVQMI_ERR_NO_TLV (no item 0x19), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetTxBytesOK(const uint8_t* msg, int len, uint64_t* count);
+/** Reads the count of bytes received without error.
+ *  Reads the optional item 0x1A (u64, low 32 bits first) of a GetPktStatistics response (0x0024).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of bytes received without error (u64, native order) (required).
+ *  @return The value length of item 0x1A; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0024 in msg), ZOVQMI_ERR_NO_TLV (no item 0x1A), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetPktStatisticsRespGetRxBytesOK(const uint8_t* msg, int len, uint64_t* count);
+/** @} */
+/** @defgroup wds_go_dormant GoDormant (0x0025)
+ *  @ingroup svc_wds
+ *  @brief Asks the modem to release the traffic channel of the call.
+ *  @{
+ */
+/** Builds a GoDormant request (0x0025).
+ *  Writes the 7-byte service header of message 0x0025 with an empty item area: 7 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 7.
+ *  @return 7, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 7 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGoDormantReq(uint8_t* buf, int bufsize);
+/** Parses a GoDormant response (0x0025).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x0025 in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGoDormantResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wds_go_active GoActive (0x0026)
+ *  @ingroup svc_wds
+ *  @brief Asks the modem to bring the traffic channel of a dormant call back.
+ *  @{
+ */
+/** Builds a GoActive request (0x0026).
+ *  Writes the 7-byte service header of message 0x0026 with an empty item area: 7 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 7.
+ *  @return 7, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 7 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGoActiveReq(uint8_t* buf, int bufsize);
+/** Parses a GoActive response (0x0026).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x0026 in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGoActiveResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wds_create_profile CreateProfile (0x0027)
+ *  @ingroup svc_wds
+ *  @brief Creates a data profile; its settings are profile items appended to the request.
+ *  @{
+ */
+/** Builds a CreateProfile request (0x0027).
+ *  Writes the 7-byte service header and the mandatory item 0x01 (u8 profile type): 11 bytes.
+ *  Takes the next transaction id.
+ *  Append the settings with the zovQMIWDSProfileReqAdd functions.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 11.
+ *  @param profileType Profile type: 0 3GPP, 1 3GPP2.
+ *  @return 11, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 11 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSCreateProfileReq(uint8_t* buf, int bufsize, uint8_t profileType);
+/** Parses a CreateProfile response (0x0027).
+ *  Stores the result item 0x02 in result, then decodes the mandatory item 0x01 (profile type u8, profile index u8).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @param profileType Receives the type of the new profile: 0 3GPP, 1 3GPP2 (required).
+ *  @param profileIndex Receives the index of the new profile (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result, profileType, profileIndex),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message 0x0027 in msg), ZOVQMI_ERR_NO_TLV (no result item),
+ *      ZOVQMI_ERR_NO_MANDATORY (no item 0x01; result already filled), ZOVQMI_ERR_MALFORMED (a field read lies
+ *      beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSCreateProfileResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* profileType,
                                           uint8_t* profileIndex);
+/** @} */
+/** @defgroup wds_modify_profile_settings ModifyProfileSettings (0x0028)
+ *  @ingroup svc_wds
+ *  @brief Changes settings of a data profile; the new settings are profile items.
+ *  @{
+ */
+/** Builds a ModifyProfileSettings request (0x0028).
+ *  Writes the 7-byte service header and the mandatory item 0x01 (profile type u8, profile index u8): 12 bytes.
+ *  Takes the next transaction id.
+ *  Append the settings to change with the zovQMIWDSProfileReqAdd functions.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 12.
+ *  @param profileType Profile type: 0 3GPP, 1 3GPP2.
+ *  @param profileIndex Index of the profile (1 for the first).
+ *  @return 12, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 12 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSModifyProfileSettingsReq(uint8_t* buf, int bufsize, uint8_t profileType,
                                                  uint8_t profileIndex);
+/** Parses a ModifyProfileSettings response (0x0028).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x0028 in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSModifyProfileSettingsResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wds_delete_profile DeleteProfile (0x0029)
+ *  @ingroup svc_wds
+ *  @brief Deletes a data profile.
+ *  @{
+ */
+/** Builds a DeleteProfile request (0x0029).
+ *  Writes the 7-byte service header and the mandatory item 0x01 (profile type u8, profile index u8): 12 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 12.
+ *  @param profileType Profile type: 0 3GPP, 1 3GPP2.
+ *  @param profileIndex Index of the profile (1 for the first).
+ *  @return 12, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 12 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSDeleteProfileReq(uint8_t* buf, int bufsize, uint8_t profileType, uint8_t profileIndex);
+/** Parses a DeleteProfile response (0x0029).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x0029 in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSDeleteProfileResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wds_get_profile_list GetProfileList (0x002A)
+ *  @ingroup svc_wds
+ *  @brief Lists the data profiles: type, index and name of each.
+ *  @{
+ */
+/** Builds a GetProfileList request (0x002A).
+ *  Writes the 7-byte service header of message 0x002A with an empty item area: 7 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 7.
+ *  @return 7, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 7 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetProfileListReq(uint8_t* buf, int bufsize);
+/** Parses a GetProfileList response (0x002A).
+ *  Stores the result item 0x02 in result, then decodes the mandatory item 0x01 (count u8, then per profile its type
+ *  u8, index u8, name length u8 and name).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @param count Receives the number of profiles (required).
+ *  @param list Array of at least *count WDSProfileListEntry records (up to 255); each record's name pointer, set
+ *      beforehand, receives the name when it is not null.  May be null: then only the count is stored.
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result, count), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x002A in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_NO_MANDATORY (no item 0x01; result
+ *      already filled), ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetProfileListResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
                                            WDSProfileListEntry* list);
+/** @} */
+/** @defgroup wds_get_profile_settings GetProfileSettings (0x002B)
+ *  @ingroup svc_wds
+ *  @brief Reads the settings of a data profile; they are read with the profile item parsers.
+ *  @{
+ */
+/** Builds a GetProfileSettings request (0x002B).
+ *  Writes the 7-byte service header and the mandatory item 0x01 (profile type u8, profile index u8): 12 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 12.
+ *  @param profileType Profile type: 0 3GPP, 1 3GPP2.
+ *  @param profileIndex Index of the profile (1 for the first).
+ *  @return 12, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 12 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetProfileSettingsReq(uint8_t* buf, int bufsize, uint8_t profileType, uint8_t profileIndex);
+/** Parses a GetProfileSettings response (0x002B).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  The settings are read with the zovQMIWDSProfileRespGet functions given message id 0x002B.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x002B in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetProfileSettingsResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wds_get_default_settings GetDefaultSettings (0x002C)
+ *  @ingroup svc_wds
+ *  @brief Reads the default settings of a profile type; they are read with the profile item parsers.
+ *  @{
+ */
+/** Builds a GetDefaultSettings request (0x002C).
+ *  Writes the 7-byte service header and the mandatory item 0x01 (u8 profile type): 11 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 11.
+ *  @param profileType Profile type: 0 3GPP, 1 3GPP2.
+ *  @return 11, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 11 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetDefaultSettingsReq(uint8_t* buf, int bufsize, uint8_t profileType);
+/** Parses a GetDefaultSettings response (0x002C).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  The settings are read with the zovQMIWDSProfileRespGet functions given message id 0x002C.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x002C in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetDefaultSettingsResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wds_profile_items Profile items
+ *  @ingroup svc_wds
+ *  @brief One builder and one parser per profile setting, shared by the profile messages.
+ *  The builders append to a CreateProfile or ModifyProfileSettings request.  The parsers take the id of the
+ *  response they read: GetProfileSettings (0x002B), GetDefaultSettings (0x002C) and, for item types 0x10 to 0x1E,
+ *  GetRuntimeSettings (0x002D); any other id gives ZOVQMI_ERR_ARG before the buffer is looked at.
+ *  @note Deliberate: the parsers of item types 0x1F and above refuse id 0x002D with ZOVQMI_ERR_ARG, because in a
+ *  GetRuntimeSettings response those types carry other items (see the zovQMIWDSGetRuntimeSettingsRespGet
+ *  functions).
+ *  @{
+ */
+/** Appends the profile name to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x10 (profile name), 3 + length bytes.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param length Length of the profile name in bytes; 0 appends an empty item.
+ *  @param data The profile name, not NUL-terminated, copied as it is; may be null when length is 0.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf, or non-zero length with null data),
+ *      ZOVQMI_ERR_NO_ROOM (the item does not fit bufsize; request unchanged), ZOVQMI_ERR_MALFORMED (length above
+ *      1024).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddProfileName(uint8_t* buf, int bufsize, uint16_t length, const uint8_t* data);
+/** Reads the profile name of a profile.
+ *  Reads item 0x10 (profile name) of a GetProfileSettings, GetDefaultSettings or GetRuntimeSettings response.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B, 0x002C or 0x002D.
+ *  @param length Receives the length of the profile name (required).
+ *  @param data Buffer of at least *length bytes (up to the item's length) that receives the profile name, not
+ *      NUL-terminated; may be null.
+ *  @return The value length of item 0x10; ZOVQMI_ERR_ARG (null msg, length, or messageId not 0x002B, 0x002C or
+ *      0x002D), ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x10),
+ *      ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetProfileName(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
                                                   uint8_t* data);
+/** Appends the PDP type to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x11 (u8), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param value 0 IPv4, 1 PPP, 2 IPv6, 3 IPv4 and IPv6.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddPDPType(uint8_t* buf, int bufsize, uint8_t value);
+/** Reads the PDP type of a profile.
+ *  Reads item 0x11 (u8) of a GetProfileSettings, GetDefaultSettings or GetRuntimeSettings response.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B, 0x002C or 0x002D.
+ *  @param value Receives PDP type: 0 IPv4, 1 PPP, 2 IPv6, 3 IPv4 and IPv6 (required).
+ *  @return The value length of item 0x11; ZOVQMI_ERR_ARG (null msg, value, or messageId not 0x002B, 0x002C or
+ *      0x002D), ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x11),
+ *      ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetPDPType(const uint8_t* msg, int len, uint16_t messageId, uint8_t* value);
+/** Appends the PDP header compression to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x12 (u8), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param value 0 off, 1 manufacturer preferred, 2 RFC 1144, 3 RFC 2507, 4 RFC 3095.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddPDPHeaderCompression(uint8_t* buf, int bufsize, uint8_t value);
+/** Reads the PDP header compression of a profile.
+ *  Reads item 0x12 (u8) of a GetProfileSettings, GetDefaultSettings or GetRuntimeSettings response.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B, 0x002C or 0x002D.
+ *  @param value Receives PDP header compression: 0 off, 1 manufacturer preferred, 2 RFC 1144, 3 RFC 2507, 4 RFC
+ *      3095 (required).
+ *  @return The value length of item 0x12; ZOVQMI_ERR_ARG (null msg, value, or messageId not 0x002B, 0x002C or
+ *      0x002D), ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x12),
+ *      ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetPDPHeaderCompression(const uint8_t* msg, int len, uint16_t messageId,
                                                            uint8_t* value);
+/** Appends the PDP data compression to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x13 (u8), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param value 0 off, 1 manufacturer preferred, 2 V.42bis, 3 V.44.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddPDPDataCompression(uint8_t* buf, int bufsize, uint8_t value);
+/** Reads the PDP data compression of a profile.
+ *  Reads item 0x13 (u8) of a GetProfileSettings, GetDefaultSettings or GetRuntimeSettings response.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B, 0x002C or 0x002D.
+ *  @param value Receives PDP data compression: 0 off, 1 manufacturer preferred, 2 V.42bis, 3 V.44 (required).
+ *  @return The value length of item 0x13; ZOVQMI_ERR_ARG (null msg, value, or messageId not 0x002B, 0x002C or
+ *      0x002D), ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x13),
+ *      ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetPDPDataCompression(const uint8_t* msg, int len, uint16_t messageId,
                                                          uint8_t* value);
+/** Appends the access point name to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x14 (access point name), 3 + length bytes.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param length Length of the access point name in bytes; 0 appends an empty item.
+ *  @param data The access point name, not NUL-terminated, copied as it is; may be null when length is 0.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf, or non-zero length with null data),
+ *      ZOVQMI_ERR_NO_ROOM (the item does not fit bufsize; request unchanged), ZOVQMI_ERR_MALFORMED (length above
+ *      1024).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddAPNName(uint8_t* buf, int bufsize, uint16_t length, const uint8_t* data);
+/** Reads the access point name of a profile.
+ *  Reads item 0x14 (access point name) of a GetProfileSettings, GetDefaultSettings or GetRuntimeSettings response.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B, 0x002C or 0x002D.
+ *  @param length Receives the length of the access point name (required).
+ *  @param data Buffer of at least *length bytes (up to the item's length) that receives the access point name, not
+ *      NUL-terminated; may be null.
+ *  @return The value length of item 0x14; ZOVQMI_ERR_ARG (null msg, length, or messageId not 0x002B, 0x002C or
+ *      0x002D), ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x14),
+ *      ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetAPNName(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
                                               uint8_t* data);
+/** Appends the preferred primary DNS server (IPv4) to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x15 (u32 IPv4 address), 7 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param value The preferred primary DNS server (IPv4) as a u32 number (192.168.0.1 is 0xC0A80001); sent
+ *      little-endian.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddPrimaryDNSIPv4AddressPreference(uint8_t* buf, int bufsize, uint32_t value);
+/** Reads the preferred primary DNS server (IPv4) of a profile.
+ *  Reads item 0x15 (u32 IPv4 address) of a GetProfileSettings, GetDefaultSettings or GetRuntimeSettings response.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B, 0x002C or 0x002D.
+ *  @param value Receives the preferred primary DNS server (IPv4) as a u32 number, native order (required).
+ *  @return The value length of item 0x15; ZOVQMI_ERR_ARG (null msg, value, or messageId not 0x002B, 0x002C or
+ *      0x002D), ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x15),
+ *      ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetPrimaryDNSIPv4AddressPreference(const uint8_t* msg, int len,
                                                                       uint16_t messageId, uint32_t* value);
+/** Appends the preferred secondary DNS server (IPv4) to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x16 (u32 IPv4 address), 7 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param value The preferred secondary DNS server (IPv4) as a u32 number (192.168.0.1 is 0xC0A80001); sent
+ *      little-endian.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddSecondaryDNSIPv4AddressPreference(uint8_t* buf, int bufsize, uint32_t value);
+/** Reads the preferred secondary DNS server (IPv4) of a profile.
+ *  Reads item 0x16 (u32 IPv4 address) of a GetProfileSettings, GetDefaultSettings or GetRuntimeSettings response.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B, 0x002C or 0x002D.
+ *  @param value Receives the preferred secondary DNS server (IPv4) as a u32 number, native order (required).
+ *  @return The value length of item 0x16; ZOVQMI_ERR_ARG (null msg, value, or messageId not 0x002B, 0x002C or
+ *      0x002D), ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x16),
+ *      ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetSecondaryDNSIPv4AddressPreference(const uint8_t* msg, int len,
                                                                         uint16_t messageId, uint32_t* value);
+/** Appends the UMTS quality of service requested to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x17 (WDSUMTSQoS, 33 bytes), 36 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param record A WDSUMTSQoS (33 bytes, wire layout, multi-byte fields little-endian) holding the UMTS quality of
+ *      service requested, copied as it is (required).
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf or record), ZOVQMI_ERR_NO_ROOM (the
+ *      item does not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddUMTSRequestedQoS(uint8_t* buf, int bufsize, const uint8_t* record);
+/** Reads the UMTS quality of service requested of a profile.
+ *  Reads item 0x17 (WDSUMTSQoS, 33 bytes) of a GetProfileSettings, GetDefaultSettings or GetRuntimeSettings
+ *  response.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B, 0x002C or 0x002D.
+ *  @param record A WDSUMTSQoS (33 bytes) that receives the UMTS quality of service requested in wire layout
+ *      (required).
+ *  @return The value length of item 0x17; ZOVQMI_ERR_ARG (null msg, record, or messageId not 0x002B, 0x002C or
+ *      0x002D), ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x17),
+ *      ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetUMTSRequestedQoS(const uint8_t* msg, int len, uint16_t messageId,
                                                        uint8_t* record);
+/** Appends the minimum acceptable UMTS quality of service to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x18 (WDSUMTSQoS, 33 bytes), 36 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param record A WDSUMTSQoS (33 bytes, wire layout, multi-byte fields little-endian) holding the minimum
+ *      acceptable UMTS quality of service, copied as it is (required).
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf or record), ZOVQMI_ERR_NO_ROOM (the
+ *      item does not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddUMTSMinimumQoS(uint8_t* buf, int bufsize, const uint8_t* record);
+/** Reads the minimum acceptable UMTS quality of service of a profile.
+ *  Reads item 0x18 (WDSUMTSQoS, 33 bytes) of a GetProfileSettings, GetDefaultSettings or GetRuntimeSettings
+ *  response.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B, 0x002C or 0x002D.
+ *  @param record A WDSUMTSQoS (33 bytes) that receives the minimum acceptable UMTS quality of service in wire
+ *      layout (required).
+ *  @return The value length of item 0x18; ZOVQMI_ERR_ARG (null msg, record, or messageId not 0x002B, 0x002C or
+ *      0x002D), ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x18),
+ *      ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetUMTSMinimumQoS(const uint8_t* msg, int len, uint16_t messageId,
                                                      uint8_t* record);
+/** Appends the GPRS quality of service requested to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x19 (WDSGPRSQoS, 20 bytes), 23 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param record A WDSGPRSQoS (20 bytes, wire layout, multi-byte fields little-endian) holding the GPRS quality of
+ *      service requested, copied as it is (required).
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf or record), ZOVQMI_ERR_NO_ROOM (the
+ *      item does not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddGPRSRequestedQoS(uint8_t* buf, int bufsize, const uint8_t* record);
+/** Reads the GPRS quality of service requested of a profile.
+ *  Reads item 0x19 (WDSGPRSQoS, 20 bytes) of a GetProfileSettings, GetDefaultSettings or GetRuntimeSettings
+ *  response.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B, 0x002C or 0x002D.
+ *  @param record A WDSGPRSQoS (20 bytes) that receives the GPRS quality of service requested in wire layout
+ *      (required).
+ *  @return The value length of item 0x19; ZOVQMI_ERR_ARG (null msg, record, or messageId not 0x002B, 0x002C or
+ *      0x002D), ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x19),
+ *      ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetGPRSRequestedQoS(const uint8_t* msg, int len, uint16_t messageId,
                                                        uint8_t* record);
+/** Appends the minimum acceptable GPRS quality of service to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x1A (WDSGPRSQoS, 20 bytes), 23 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param record A WDSGPRSQoS (20 bytes, wire layout, multi-byte fields little-endian) holding the minimum
+ *      acceptable GPRS quality of service, copied as it is (required).
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf or record), ZOVQMI_ERR_NO_ROOM (the
+ *      item does not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddGPRSMinimumQoS(uint8_t* buf, int bufsize, const uint8_t* record);
+/** Reads the minimum acceptable GPRS quality of service of a profile.
+ *  Reads item 0x1A (WDSGPRSQoS, 20 bytes) of a GetProfileSettings, GetDefaultSettings or GetRuntimeSettings
+ *  response.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B, 0x002C or 0x002D.
+ *  @param record A WDSGPRSQoS (20 bytes) that receives the minimum acceptable GPRS quality of service in wire
+ *      layout (required).
+ *  @return The value length of item 0x1A; ZOVQMI_ERR_ARG (null msg, record, or messageId not 0x002B, 0x002C or
+ *      0x002D), ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x1A),
+ *      ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetGPRSMinimumQoS(const uint8_t* msg, int len, uint16_t messageId,
                                                      uint8_t* record);
+/** Appends the user name to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x1B (user name), 3 + length bytes.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param length Length of the user name in bytes; 0 appends an empty item.
+ *  @param data The user name, not NUL-terminated, copied as it is; may be null when length is 0.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf, or non-zero length with null data),
+ *      ZOVQMI_ERR_NO_ROOM (the item does not fit bufsize; request unchanged), ZOVQMI_ERR_MALFORMED (length above
+ *      1024).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddUsername(uint8_t* buf, int bufsize, uint16_t length, const uint8_t* data);
+/** Reads the user name of a profile.
+ *  Reads item 0x1B (user name) of a GetProfileSettings, GetDefaultSettings or GetRuntimeSettings response.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B, 0x002C or 0x002D.
+ *  @param length Receives the length of the user name (required).
+ *  @param data Buffer of at least *length bytes (up to the item's length) that receives the user name, not
+ *      NUL-terminated; may be null.
+ *  @return The value length of item 0x1B; ZOVQMI_ERR_ARG (null msg, length, or messageId not 0x002B, 0x002C or
+ *      0x002D), ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x1B),
+ *      ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetUsername(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
                                                uint8_t* data);
+/** Appends the password to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x1C (password), 3 + length bytes.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param length Length of the password in bytes; 0 appends an empty item.
+ *  @param data The password, not NUL-terminated, copied as it is; may be null when length is 0.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf, or non-zero length with null data),
+ *      ZOVQMI_ERR_NO_ROOM (the item does not fit bufsize; request unchanged), ZOVQMI_ERR_MALFORMED (length above
+ *      1024).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddPassword(uint8_t* buf, int bufsize, uint16_t length, const uint8_t* data);
+/** Reads the password of a profile.
+ *  Reads item 0x1C (password) of a GetProfileSettings, GetDefaultSettings or GetRuntimeSettings response.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B, 0x002C or 0x002D.
+ *  @param length Receives the length of the password (required).
+ *  @param data Buffer of at least *length bytes (up to the item's length) that receives the password, not
+ *      NUL-terminated; may be null.
+ *  @return The value length of item 0x1C; ZOVQMI_ERR_ARG (null msg, length, or messageId not 0x002B, 0x002C or
+ *      0x002D), ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x1C),
+ *      ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetPassword(const uint8_t* msg, int len, uint16_t messageId, uint16_t* length,
                                                uint8_t* data);
+/** Appends the authentication protocols allowed to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x1D (u8), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param value bits 0x01 PAP, 0x02 CHAP (0x03 either, 0 none).
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddAuthenticationPreference(uint8_t* buf, int bufsize, uint8_t value);
+/** Reads the authentication protocols allowed of a profile.
+ *  Reads item 0x1D (u8) of a GetProfileSettings, GetDefaultSettings or GetRuntimeSettings response.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B, 0x002C or 0x002D.
+ *  @param value Receives authentication protocols allowed: bits 0x01 PAP, 0x02 CHAP (0x03 either, 0 none)
+ *      (required).
+ *  @return The value length of item 0x1D; ZOVQMI_ERR_ARG (null msg, value, or messageId not 0x002B, 0x002C or
+ *      0x002D), ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x1D),
+ *      ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetAuthenticationPreference(const uint8_t* msg, int len, uint16_t messageId,
                                                                uint8_t* value);
+/** Appends the preferred IPv4 address to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x1E (u32 IPv4 address), 7 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param value The preferred IPv4 address as a u32 number (192.168.0.1 is 0xC0A80001); sent little-endian.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddIPv4AddressPreference(uint8_t* buf, int bufsize, uint32_t value);
+/** Reads the preferred IPv4 address of a profile.
+ *  Reads item 0x1E (u32 IPv4 address) of a GetProfileSettings, GetDefaultSettings or GetRuntimeSettings response.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B, 0x002C or 0x002D.
+ *  @param value Receives the preferred IPv4 address as a u32 number, native order (required).
+ *  @return The value length of item 0x1E; ZOVQMI_ERR_ARG (null msg, value, or messageId not 0x002B, 0x002C or
+ *      0x002D), ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x1E),
+ *      ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetIPv4AddressPreference(const uint8_t* msg, int len, uint16_t messageId,
                                                             uint32_t* value);
+/** Appends the P-CSCF by PCO flag to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x1F (u8), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param value 1 to ask for the P-CSCF address with protocol configuration options, 0 not.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddPCSCFAddressUsingPCOFlag(uint8_t* buf, int bufsize, uint8_t value);
+/** Reads the P-CSCF by PCO flag of a profile.
+ *  Reads item 0x1F (u8) of a GetProfileSettings, GetDefaultSettings response (not GetRuntimeSettings).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B or 0x002C.
+ *  @param value Receives P-CSCF by PCO flag: 1 to ask for the P-CSCF address with protocol configuration options, 0
+ *      not (required).
+ *  @return The value length of item 0x1F; ZOVQMI_ERR_ARG (null msg, value, or messageId not 0x002B or 0x002C),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x1F), ZOVQMI_ERR_MALFORMED
+ *      (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetPCSCFAddressUsingPCOFlag(const uint8_t* msg, int len, uint16_t messageId,
                                                                uint8_t* value);
+/** Appends the PDP access control to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x20 (u8), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param value 0 no access control, 1 reject, 2 permission.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddPDPAccessControlFlag(uint8_t* buf, int bufsize, uint8_t value);
+/** Reads the PDP access control of a profile.
+ *  Reads item 0x20 (u8) of a GetProfileSettings, GetDefaultSettings response (not GetRuntimeSettings).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B or 0x002C.
+ *  @param value Receives PDP access control: 0 no access control, 1 reject, 2 permission (required).
+ *  @return The value length of item 0x20; ZOVQMI_ERR_ARG (null msg, value, or messageId not 0x002B or 0x002C),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x20), ZOVQMI_ERR_MALFORMED
+ *      (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetPDPAccessControlFlag(const uint8_t* msg, int len, uint16_t messageId,
                                                            uint8_t* value);
+/** Appends the P-CSCF by DHCP flag to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x21 (u8), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param value 1 to ask for the P-CSCF address with DHCP, 0 not.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddPCSCFAddressUsingDHCPFlag(uint8_t* buf, int bufsize, uint8_t value);
+/** Reads the P-CSCF by DHCP flag of a profile.
+ *  Reads item 0x21 (u8) of a GetProfileSettings, GetDefaultSettings response (not GetRuntimeSettings).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B or 0x002C.
+ *  @param value Receives P-CSCF by DHCP flag: 1 to ask for the P-CSCF address with DHCP, 0 not (required).
+ *  @return The value length of item 0x21; ZOVQMI_ERR_ARG (null msg, value, or messageId not 0x002B or 0x002C),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x21), ZOVQMI_ERR_MALFORMED
+ *      (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetPCSCFAddressUsingDHCPFlag(const uint8_t* msg, int len, uint16_t messageId,
                                                                 uint8_t* value);
+/** Appends the IM CN flag to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x22 (u8), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param value 1 to ask for a context for IM CN subsystem signalling, 0 not.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddIMCNFlag(uint8_t* buf, int bufsize, uint8_t value);
+/** Reads the IM CN flag of a profile.
+ *  Reads item 0x22 (u8) of a GetProfileSettings, GetDefaultSettings response (not GetRuntimeSettings).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B or 0x002C.
+ *  @param value Receives IM CN flag: 1 to ask for a context for IM CN subsystem signalling, 0 not (required).
+ *  @return The value length of item 0x22; ZOVQMI_ERR_ARG (null msg, value, or messageId not 0x002B or 0x002C),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x22), ZOVQMI_ERR_MALFORMED
+ *      (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetIMCNFlag(const uint8_t* msg, int len, uint16_t messageId, uint8_t* value);
+/** Appends the first traffic flow template filter to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x23 (WDSTFTFilter, 39 bytes), 42 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param record A WDSTFTFilter (39 bytes, wire layout, multi-byte fields little-endian) holding the first traffic
+ *      flow template filter, copied as it is (required).
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf or record), ZOVQMI_ERR_NO_ROOM (the
+ *      item does not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddTFTFilterID1(uint8_t* buf, int bufsize, const uint8_t* record);
+/** Reads the first traffic flow template filter of a profile.
+ *  Reads item 0x23 (WDSTFTFilter, 39 bytes) of a GetProfileSettings, GetDefaultSettings response (not
+ *  GetRuntimeSettings).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B or 0x002C.
+ *  @param record A WDSTFTFilter (39 bytes) that receives the first traffic flow template filter in wire layout
+ *      (required).
+ *  @return The value length of item 0x23; ZOVQMI_ERR_ARG (null msg, record, or messageId not 0x002B or 0x002C),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x23), ZOVQMI_ERR_MALFORMED
+ *      (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetTFTFilterID1(const uint8_t* msg, int len, uint16_t messageId, uint8_t* record);
+/** Appends the second traffic flow template filter to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x24 (WDSTFTFilter, 39 bytes), 42 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param record A WDSTFTFilter (39 bytes, wire layout, multi-byte fields little-endian) holding the second traffic
+ *      flow template filter, copied as it is (required).
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf or record), ZOVQMI_ERR_NO_ROOM (the
+ *      item does not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddTFTFilterID2(uint8_t* buf, int bufsize, const uint8_t* record);
+/** Reads the second traffic flow template filter of a profile.
+ *  Reads item 0x24 (WDSTFTFilter, 39 bytes) of a GetProfileSettings, GetDefaultSettings response (not
+ *  GetRuntimeSettings).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B or 0x002C.
+ *  @param record A WDSTFTFilter (39 bytes) that receives the second traffic flow template filter in wire layout
+ *      (required).
+ *  @return The value length of item 0x24; ZOVQMI_ERR_ARG (null msg, record, or messageId not 0x002B or 0x002C),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x24), ZOVQMI_ERR_MALFORMED
+ *      (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetTFTFilterID2(const uint8_t* msg, int len, uint16_t messageId, uint8_t* record);
+/** Appends the PDP context number to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x25 (u8), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param value the PDP context number.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddPDPContextNumber(uint8_t* buf, int bufsize, uint8_t value);
+/** Reads the PDP context number of a profile.
+ *  Reads item 0x25 (u8) of a GetProfileSettings, GetDefaultSettings response (not GetRuntimeSettings).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B or 0x002C.
+ *  @param value Receives PDP context number: the PDP context number (required).
+ *  @return The value length of item 0x25; ZOVQMI_ERR_ARG (null msg, value, or messageId not 0x002B or 0x002C),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x25), ZOVQMI_ERR_MALFORMED
+ *      (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetPDPContextNumber(const uint8_t* msg, int len, uint16_t messageId,
                                                        uint8_t* value);
+/** Appends the secondary context flag to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x26 (u8), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param value 1 for a secondary context, 0 for a primary one.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddPDPContextSecondaryFlag(uint8_t* buf, int bufsize, uint8_t value);
+/** Reads the secondary context flag of a profile.
+ *  Reads item 0x26 (u8) of a GetProfileSettings, GetDefaultSettings response (not GetRuntimeSettings).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B or 0x002C.
+ *  @param value Receives secondary context flag: 1 for a secondary context, 0 for a primary one (required).
+ *  @return The value length of item 0x26; ZOVQMI_ERR_ARG (null msg, value, or messageId not 0x002B or 0x002C),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x26), ZOVQMI_ERR_MALFORMED
+ *      (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetPDPContextSecondaryFlag(const uint8_t* msg, int len, uint16_t messageId,
                                                               uint8_t* value);
+/** Appends the primary context id to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x27 (u8), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param value the context number of the primary context.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddPDPContextPrimaryID(uint8_t* buf, int bufsize, uint8_t value);
+/** Reads the primary context id of a profile.
+ *  Reads item 0x27 (u8) of a GetProfileSettings, GetDefaultSettings response (not GetRuntimeSettings).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B or 0x002C.
+ *  @param value Receives primary context id: the context number of the primary context (required).
+ *  @return The value length of item 0x27; ZOVQMI_ERR_ARG (null msg, value, or messageId not 0x002B or 0x002C),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x27), ZOVQMI_ERR_MALFORMED
+ *      (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetPDPContextPrimaryID(const uint8_t* msg, int len, uint16_t messageId,
                                                           uint8_t* value);
+/** Appends the IPv6 address of the context to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x28 (16-byte IPv6 address), 19 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param address The IPv6 address of the context: 16 bytes in network order, copied as they are (required).
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf or record), ZOVQMI_ERR_NO_ROOM (the
+ *      item does not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddPDPContextIPv6Address(uint8_t* buf, int bufsize, const uint8_t* address);
+/** Reads the IPv6 address of the context of a profile.
+ *  Reads item 0x28 (16-byte IPv6 address) of a GetProfileSettings, GetDefaultSettings response (not
+ *  GetRuntimeSettings).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B or 0x002C.
+ *  @param address A 16-byte buffer that receives the IPv6 address of the context in network order (required).
+ *  @return The value length of item 0x28; ZOVQMI_ERR_ARG (null msg, address, or messageId not 0x002B or 0x002C),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x28), ZOVQMI_ERR_MALFORMED
+ *      (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetPDPContextIPv6Address(const uint8_t* msg, int len, uint16_t messageId,
                                                             uint8_t* address);
+/** Appends the preferred primary DNS server (IPv6) to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x2B (16-byte IPv6 address), 19 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param address The preferred primary DNS server (IPv6): 16 bytes in network order, copied as they are
+ *      (required).
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf or record), ZOVQMI_ERR_NO_ROOM (the
+ *      item does not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddPrimaryIPv6DNSAddress(uint8_t* buf, int bufsize, const uint8_t* address);
+/** Reads the preferred primary DNS server (IPv6) of a profile.
+ *  Reads item 0x2B (16-byte IPv6 address) of a GetProfileSettings, GetDefaultSettings response (not
+ *  GetRuntimeSettings).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B or 0x002C.
+ *  @param address A 16-byte buffer that receives the preferred primary DNS server (IPv6) in network order
+ *      (required).
+ *  @return The value length of item 0x2B; ZOVQMI_ERR_ARG (null msg, address, or messageId not 0x002B or 0x002C),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x2B), ZOVQMI_ERR_MALFORMED
+ *      (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetPrimaryIPv6DNSAddress(const uint8_t* msg, int len, uint16_t messageId,
                                                             uint8_t* address);
+/** Appends the preferred secondary DNS server (IPv6) to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x2C (16-byte IPv6 address), 19 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param address The preferred secondary DNS server (IPv6): 16 bytes in network order, copied as they are
+ *      (required).
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf or record), ZOVQMI_ERR_NO_ROOM (the
+ *      item does not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddSecondaryIPv6DNSAddress(uint8_t* buf, int bufsize, const uint8_t* address);
+/** Reads the preferred secondary DNS server (IPv6) of a profile.
+ *  Reads item 0x2C (16-byte IPv6 address) of a GetProfileSettings, GetDefaultSettings response (not
+ *  GetRuntimeSettings).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B or 0x002C.
+ *  @param address A 16-byte buffer that receives the preferred secondary DNS server (IPv6) in network order
+ *      (required).
+ *  @return The value length of item 0x2C; ZOVQMI_ERR_ARG (null msg, address, or messageId not 0x002B or 0x002C),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x2C), ZOVQMI_ERR_MALFORMED
+ *      (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetSecondaryIPv6DNSAddress(const uint8_t* msg, int len, uint16_t messageId,
                                                               uint8_t* address);
+/** Appends the IPv4 address allocation to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x2D (u8), 4 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param value 0 by NAS signalling, 1 by DHCP.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddIPv4AddressAlloc(uint8_t* buf, int bufsize, uint8_t value);
+/** Reads the IPv4 address allocation of a profile.
+ *  Reads item 0x2D (u8) of a GetProfileSettings, GetDefaultSettings response (not GetRuntimeSettings).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B or 0x002C.
+ *  @param value Receives IPv4 address allocation: 0 by NAS signalling, 1 by DHCP (required).
+ *  @return The value length of item 0x2D; ZOVQMI_ERR_ARG (null msg, value, or messageId not 0x002B or 0x002C),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x2D), ZOVQMI_ERR_MALFORMED
+ *      (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetIPv4AddressAlloc(const uint8_t* msg, int len, uint16_t messageId,
                                                        uint8_t* value);
+/** Appends the LTE quality of service requested to a profile request.
+ *  Extends a CreateProfile or ModifyProfileSettings request built by zovQMIWDSCreateProfileReq() or
+ *  zovQMIWDSModifyProfileSettingsReq(): appends item 0x2E (WDSLTEQoS, 17 bytes), 20 bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param record A WDSLTEQoS (17 bytes, wire layout, multi-byte fields little-endian) holding the LTE quality of
+ *      service requested, copied as it is (required).
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf or record), ZOVQMI_ERR_NO_ROOM (the
+ *      item does not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSProfileReqAddLTERequestedQoS(uint8_t* buf, int bufsize, const uint8_t* record);
+/** Reads the LTE quality of service requested of a profile.
+ *  Reads item 0x2E (WDSLTEQoS, 17 bytes) of a GetProfileSettings, GetDefaultSettings response (not
+ *  GetRuntimeSettings).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param messageId Id of the response in msg: 0x002B or 0x002C.
+ *  @param record A WDSLTEQoS (17 bytes) that receives the LTE quality of service requested in wire layout
+ *      (required).
+ *  @return The value length of item 0x2E; ZOVQMI_ERR_ARG (null msg, record, or messageId not 0x002B or 0x002C),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message messageId in msg), ZOVQMI_ERR_NO_TLV (no item 0x2E), ZOVQMI_ERR_MALFORMED
+ *      (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSProfileRespGetLTERequestedQoS(const uint8_t* msg, int len, uint16_t messageId,
                                                       uint8_t* record);
+/** @} */
+/** @defgroup wds_get_runtime_settings GetRuntimeSettings (0x002D)
+ *  @ingroup svc_wds
+ *  @brief Reads the settings of the current call: addresses, names, MTU.
+ *  Item types 0x10 to 0x1E of the response are profile items, read with the zovQMIWDSProfileRespGet functions given
+ *  message id 0x002D; types 0x1F to 0x2D are read with the functions of this group.
+ *  @{
+ */
+/** Builds a GetRuntimeSettings request (0x002D).
+ *  Writes the 7-byte service header of message 0x002D with an empty item area: 7 bytes.
+ *  Takes the next transaction id.
+ *  Append the settings wanted with zovQMIWDSGetRuntimeSettingsReqAddRequestedSettings().
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 7.
+ *  @return 7, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 7 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetRuntimeSettingsReq(uint8_t* buf, int bufsize);
+/** Appends the mask of the settings wanted.
+ *  Extends a GetRuntimeSettings request built by zovQMIWDSGetRuntimeSettingsReq(): appends item 0x10 (u32 mask), 7
+ *  bytes in all.
+ *  @param buf The request under construction; its item-area length is raised (required).
+ *  @param bufsize Capacity of buf in bytes.
+ *  @param mask Settings wanted, bits: 0x0001 profile identifier, 0x0002 profile name, 0x0004 PDP type, 0x0008 APN,
+ *      0x0010 DNS addresses, 0x0020 granted QoS, 0x0040 user name, 0x0080 authentication protocol, 0x0100 IP
+ *      address, 0x0200 gateway, 0x0400 P-CSCF by PCO, 0x0800 P-CSCF addresses, 0x1000 P-CSCF names, 0x2000 MTU,
+ *      0x4000 domain names, 0x8000 IP family, 0x10000 IM CN flag, 0x20000 technology; sent little-endian.
+ *  @return The new request length (header and items); ZOVQMI_ERR_ARG (null buf), ZOVQMI_ERR_NO_ROOM (the item does
+ *      not fit bufsize; request unchanged).
+ */
 ZOVQMI_API int zovQMIWDSGetRuntimeSettingsReqAddRequestedSettings(uint8_t* buf, int bufsize, uint32_t mask);
+/** Parses a GetRuntimeSettings response (0x002D).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  The settings are read with the RespGet functions of this group and the profile item parsers.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x002D in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetRuntimeSettingsResp(const uint8_t* msg, int len, QmiResult* result);
+/** Reads which profile the call uses.
+ *  Reads the optional item 0x1F (profile type u8, profile index u8) of a GetRuntimeSettings response (0x002D).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param profileType Receives the profile type: 0 3GPP, 1 3GPP2 (required).
+ *  @param profileIndex Receives the profile index (required).
+ *  @return The value length of item 0x1F; ZOVQMI_ERR_ARG (null msg, profileType, profileIndex),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message 0x002D in msg), ZOVQMI_ERR_NO_TLV (no item 0x1F), ZOVQMI_ERR_MALFORMED (a
+ *      field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetProfileIdentifier(const uint8_t* msg, int len, uint8_t* profileType,
                                                                    uint8_t* profileIndex);
+/** Reads the IPv4 gateway address.
+ *  Reads the optional item 0x20 (u32) of a GetRuntimeSettings response (0x002D).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param address Receives the gateway address as a u32 number, native order (0xC0A80001 is 192.168.0.1)
+ *      (required).
+ *  @return The value length of item 0x20; ZOVQMI_ERR_ARG (null msg, address), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x002D in msg), ZOVQMI_ERR_NO_TLV (no item 0x20), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetIPv4GatewayAddress(const uint8_t* msg, int len, uint32_t* address);
+/** Reads the IPv4 subnet mask.
+ *  Reads the optional item 0x21 (u32) of a GetRuntimeSettings response (0x002D).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param mask Receives the subnet mask as a u32 number, native order (0xFFFFFF00 is /24) (required).
+ *  @return The value length of item 0x21; ZOVQMI_ERR_ARG (null msg, mask), ZOVQMI_ERR_NO_MESSAGE (no message 0x002D
+ *      in msg), ZOVQMI_ERR_NO_TLV (no item 0x21), ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing
+ *      written).
+ */
 ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetIPv4SubnetMask(const uint8_t* msg, int len, uint32_t* mask);
+/** Reads the P-CSCF by PCO flag of the call.
+ *  Reads the optional item 0x22 (u8) of a GetRuntimeSettings response (0x002D).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param flag Receives 1 when the P-CSCF address was obtained with protocol configuration options, else 0
+ *      (required).
+ *  @return The value length of item 0x22; ZOVQMI_ERR_ARG (null msg, flag), ZOVQMI_ERR_NO_MESSAGE (no message 0x002D
+ *      in msg), ZOVQMI_ERR_NO_TLV (no item 0x22), ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing
+ *      written).
+ */
 ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetPCSCFAddressUsingPCOFlag(const uint8_t* msg, int len, uint8_t* flag);
+/** Reads the IPv4 addresses of the P-CSCF servers.
+ *  Reads the optional item 0x23 (count u8, then count u32) of a GetRuntimeSettings response (0x002D).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of addresses (required).
+ *  @param list Array of at least *count u32 (up to 255) that receives the addresses as u32 numbers, native order;
+ *      may be null.
+ *  @return The value length of item 0x23; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x002D in msg), ZOVQMI_ERR_NO_TLV (no item 0x23), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetPCSCFIPv4ServerAddressList(const uint8_t* msg, int len,
                                                                             uint8_t* count, uint32_t* list);
+/** Reads the domain names of the P-CSCF servers.
+ *  Reads the optional item 0x24 (count u8, then per name a u16 length and its bytes) of a GetRuntimeSettings
+ *  response (0x002D).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of names (required).
+ *  @param list Array of at least *count WDSNameListEntry records (up to 255); each record's name pointer, set
+ *      beforehand, receives the name when it is not null.  May be null: then only the count is stored.
+ *  @return The value length of item 0x24; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x002D in msg), ZOVQMI_ERR_NO_TLV (no item 0x24), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetPCSCFFQDNList(const uint8_t* msg, int len, uint8_t* count,
                                                                WDSNameListEntry* list);
+/** Reads the IPv6 address of the call and its prefix length.
+ *  Reads the optional item 0x25 (16-byte address, u8 prefix length) of a GetRuntimeSettings response (0x002D).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param address A 16-byte buffer that receives the IPv6 address of the call in network order (required).
+ *  @param prefixLength Receives the prefix length in bits (required).
+ *  @return The value length of item 0x25; ZOVQMI_ERR_ARG (null msg, address, prefixLength), ZOVQMI_ERR_NO_MESSAGE
+ *      (no message 0x002D in msg), ZOVQMI_ERR_NO_TLV (no item 0x25), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetIPv6Address(const uint8_t* msg, int len, uint8_t* address,
                                                              uint8_t* prefixLength);
+/** Reads the IPv6 gateway address and its prefix length.
+ *  Reads the optional item 0x26 (16-byte address, u8 prefix length) of a GetRuntimeSettings response (0x002D).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param address A 16-byte buffer that receives the IPv6 gateway address in network order (required).
+ *  @param prefixLength Receives the prefix length in bits (required).
+ *  @return The value length of item 0x26; ZOVQMI_ERR_ARG (null msg, address, prefixLength), ZOVQMI_ERR_NO_MESSAGE
+ *      (no message 0x002D in msg), ZOVQMI_ERR_NO_TLV (no item 0x26), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetIPv6GatewayAddress(const uint8_t* msg, int len, uint8_t* address,
                                                                     uint8_t* prefixLength);
+/** Reads the primary IPv6 DNS server.
+ *  Reads the optional item 0x27 (16-byte address) of a GetRuntimeSettings response (0x002D).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param address A 16-byte buffer that receives the primary DNS server in network order (required).
+ *  @return The value length of item 0x27; ZOVQMI_ERR_ARG (null msg, address), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x002D in msg), ZOVQMI_ERR_NO_TLV (no item 0x27), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetPrimaryIPv6DNSAddress(const uint8_t* msg, int len, uint8_t* address);
+/** Reads the secondary IPv6 DNS server.
+ *  Reads the optional item 0x28 (16-byte address) of a GetRuntimeSettings response (0x002D).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param address A 16-byte buffer that receives the secondary DNS server in network order (required).
+ *  @return The value length of item 0x28; ZOVQMI_ERR_ARG (null msg, address), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x002D in msg), ZOVQMI_ERR_NO_TLV (no item 0x28), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetSecondaryIPv6DNSAddress(const uint8_t* msg, int len,
                                                                          uint8_t* address);
+/** Reads the MTU of the call.
+ *  Reads the optional item 0x29 (u32) of a GetRuntimeSettings response (0x002D).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param mtu Receives the MTU of the call in bytes (required).
+ *  @return The value length of item 0x29; ZOVQMI_ERR_ARG (null msg, mtu), ZOVQMI_ERR_NO_MESSAGE (no message 0x002D
+ *      in msg), ZOVQMI_ERR_NO_TLV (no item 0x29), ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing
+ *      written).
+ */
 ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetMTU(const uint8_t* msg, int len, uint32_t* mtu);
+/** Reads the domain name search list.
+ *  Reads the optional item 0x2A (count u8, then per name a u16 length and its bytes) of a GetRuntimeSettings
+ *  response (0x002D).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param count Receives the number of domain names (required).
+ *  @param list Array of at least *count WDSNameListEntry records (up to 255); each record's name pointer, set
+ *      beforehand, receives the name when it is not null.  May be null: then only the count is stored.
+ *  @return The value length of item 0x2A; ZOVQMI_ERR_ARG (null msg, count), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x002D in msg), ZOVQMI_ERR_NO_TLV (no item 0x2A), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetDomainNameList(const uint8_t* msg, int len, uint8_t* count,
                                                                 WDSNameListEntry* list);
+/** Reads the IP family of the call.
+ *  Reads the optional item 0x2B (u8) of a GetRuntimeSettings response (0x002D).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param family Receives the IP family of the call: 4 IPv4, 6 IPv6 (required).
+ *  @return The value length of item 0x2B; ZOVQMI_ERR_ARG (null msg, family), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x002D in msg), ZOVQMI_ERR_NO_TLV (no item 0x2B), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetIPfamily(const uint8_t* msg, int len, uint8_t* family);
+/** Reads the IM CN flag of the call.
+ *  Reads the optional item 0x2C (u8) of a GetRuntimeSettings response (0x002D).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param flag Receives 1 when the context serves IM CN subsystem signalling, else 0 (required).
+ *  @return The value length of item 0x2C; ZOVQMI_ERR_ARG (null msg, flag), ZOVQMI_ERR_NO_MESSAGE (no message 0x002D
+ *      in msg), ZOVQMI_ERR_NO_TLV (no item 0x2C), ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing
+ *      written).
+ */
 ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetIMCNFlag(const uint8_t* msg, int len, uint8_t* flag);
+/** Reads the technology the call runs on.
+ *  Reads the optional item 0x2D (u16) of a GetRuntimeSettings response (0x002D).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param name Receives the technology of the call as the modem numbers it (the values of the extended technology
+ *      preference) (required).
+ *  @return The value length of item 0x2D; ZOVQMI_ERR_ARG (null msg, name), ZOVQMI_ERR_NO_MESSAGE (no message 0x002D
+ *      in msg), ZOVQMI_ERR_NO_TLV (no item 0x2D), ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing
+ *      written).
+ */
 ZOVQMI_API int zovQMIWDSGetRuntimeSettingsRespGetTechnologyName(const uint8_t* msg, int len, uint16_t* name);
+/** @} */
+/** @defgroup wds_set_mip_mode SetMIPMode (0x002E)
+ *  @ingroup svc_wds
+ *  @brief Sets the mobile IP mode.
+ *  @{
+ */
+/** Builds a SetMIPMode request (0x002E).
+ *  Writes the 7-byte service header and the mandatory item 0x01 (u8 mode): 11 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 11.
+ *  @param mode Mobile IP mode: 0 mobile IP off (simple IP only), 1 mobile IP preferred, 2 mobile IP only.
+ *  @return 11, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 11 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSSetMIPModeReq(uint8_t* buf, int bufsize, uint8_t mode);
+/** Parses a SetMIPMode response (0x002E).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x002E in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSSetMIPModeResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wds_get_mip_mode GetMIPMode (0x002F)
+ *  @ingroup svc_wds
+ *  @brief Reads the mobile IP mode.
+ *  @{
+ */
+/** Builds a GetMIPMode request (0x002F).
+ *  Writes the 7-byte service header of message 0x002F with an empty item area: 7 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 7.
+ *  @return 7, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 7 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetMIPModeReq(uint8_t* buf, int bufsize);
+/** Parses a GetMIPMode response (0x002F).
+ *  Stores the result item 0x02 in result, then decodes the mandatory item 0x01 (u8 mode).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @param mode Receives the mobile IP mode: 0 mobile IP off (simple IP only), 1 mobile IP preferred, 2 mobile IP
+ *      only (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result, mode), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x002F in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_NO_MANDATORY (no item 0x01; result
+ *      already filled), ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetMIPModeResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* mode);
+/** @} */
+/** @defgroup wds_get_dormancy_status GetDormancyStatus (0x0030)
+ *  @ingroup svc_wds
+ *  @brief Reads whether the traffic channel is dormant.
+ *  @{
+ */
+/** Builds a GetDormancyStatus request (0x0030).
+ *  Writes the 7-byte service header of message 0x0030 with an empty item area: 7 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 7.
+ *  @return 7, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 7 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetDormancyStatusReq(uint8_t* buf, int bufsize);
+/** Parses a GetDormancyStatus response (0x0030).
+ *  Stores the result item 0x02 in result, then decodes the mandatory item 0x01 (u8 status).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @param status Receives the dormancy status: 1 traffic channel dormant, 2 traffic channel active (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result, status), ZOVQMI_ERR_NO_MESSAGE
+ *      (no message 0x0030 in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_NO_MANDATORY (no item 0x01;
+ *      result already filled), ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetDormancyStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status);
+/** @} */
+/** @defgroup wds_get_call_duration GetCallDuration (0x0035)
+ *  @ingroup svc_wds
+ *  @brief Reads how long the current and the last call have lasted.
+ *  @{
+ */
+/** Builds a GetCallDuration request (0x0035).
+ *  Writes the 7-byte service header of message 0x0035 with an empty item area: 7 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 7.
+ *  @return 7, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 7 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetCallDurationReq(uint8_t* buf, int bufsize);
+/** Parses a GetCallDuration response (0x0035).
+ *  Stores the result item 0x02 in result, then decodes the mandatory item 0x01 (u64 duration, low 32 bits first).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @param duration Receives the duration of the current call in milliseconds (u64, native order) (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result, duration), ZOVQMI_ERR_NO_MESSAGE
+ *      (no message 0x0035 in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_NO_MANDATORY (no item 0x01;
+ *      result already filled), ZOVQMI_ERR_MALFORMED (a field read lies beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetCallDurationResp(const uint8_t* msg, int len, QmiResult* result, uint64_t* duration);
+/** Reads the duration of the last call.
+ *  Reads the optional item 0x10 (u64, low 32 bits first) of a GetCallDuration response (0x0035).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param duration Receives the duration of the last call in milliseconds (u64, native order) (required).
+ *  @return The value length of item 0x10; ZOVQMI_ERR_ARG (null msg, duration), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0035 in msg), ZOVQMI_ERR_NO_TLV (no item 0x10), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetCallDurationRespGetLastCallDuration(const uint8_t* msg, int len, uint64_t* duration);
+/** Reads the active time of the current call.
+ *  Reads the optional item 0x11 (u64, low 32 bits first) of a GetCallDuration response (0x0035).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param duration Receives the time the current call has not been dormant in milliseconds (u64, native order)
+ *      (required).
+ *  @return The value length of item 0x11; ZOVQMI_ERR_ARG (null msg, duration), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0035 in msg), ZOVQMI_ERR_NO_TLV (no item 0x11), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetCallDurationRespGetActiveDuration(const uint8_t* msg, int len, uint64_t* duration);
+/** Reads the active time of the last call.
+ *  Reads the optional item 0x12 (u64, low 32 bits first) of a GetCallDuration response (0x0035).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param duration Receives the time the last call was not dormant in milliseconds (u64, native order) (required).
+ *  @return The value length of item 0x12; ZOVQMI_ERR_ARG (null msg, duration), ZOVQMI_ERR_NO_MESSAGE (no message
+ *      0x0035 in msg), ZOVQMI_ERR_NO_TLV (no item 0x12), ZOVQMI_ERR_MALFORMED (a field read lies beyond len;
+ *      nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetCallDurationRespGetLastCallActiveDuration(const uint8_t* msg, int len, uint64_t* duration);
+/** @} */
+/** @defgroup wds_get_current_data_bearer_technology GetCurrentDataBearerTechnology (0x0044)
+ *  @ingroup svc_wds
+ *  @brief Reads the network and radio technology the data call runs on.
+ *  @{
+ */
+/** Builds a GetCurrentDataBearerTechnology request (0x0044).
+ *  Writes the 7-byte service header of message 0x0044 with an empty item area: 7 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 7.
+ *  @return 7, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 7 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetCurrentDataBearerTechnologyReq(uint8_t* buf, int bufsize);
+/** Parses a GetCurrentDataBearerTechnology response (0x0044).
+ *  Stores the result item 0x02 in result, then decodes the mandatory item 0x01 (the 9-byte data bearer record: u8,
+ *  then two u32).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @param technology Receives the current network: 0 unknown, 1 3GPP2, 2 3GPP (required).
+ *  @param first Receives the first u32, the radio access technology mask as the modem defines it (required).
+ *  @param second Receives the second u32, the service option mask as the modem defines it (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result, technology, first, second),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message 0x0044 in msg), ZOVQMI_ERR_NO_TLV (no result item),
+ *      ZOVQMI_ERR_NO_MANDATORY (no item 0x01; result already filled), ZOVQMI_ERR_MALFORMED (a field read lies
+ *      beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetCurrentDataBearerTechnologyResp(const uint8_t* msg, int len, QmiResult* result,
                                                            uint8_t* technology, uint32_t* first, uint32_t* second);
+/** @} */
+/** @defgroup wds_get_default_profile_num GetDefaultProfileNum (0x0049)
+ *  @ingroup svc_wds
+ *  @brief Reads which profile a profile type and family use by default.
+ *  @{
+ */
+/** Builds a GetDefaultProfileNum request (0x0049).
+ *  Writes the 7-byte service header and the mandatory item 0x01 (u8 profile type, u8 profile family): 12 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 12.
+ *  @param first Profile type: 0 3GPP, 1 3GPP2 (first byte of item 0x01).
+ *  @param second Profile family: 0 embedded, 1 tethered (second byte of item 0x01).
+ *  @return 12, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 12 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetDefaultProfileNumReq(uint8_t* buf, int bufsize, uint8_t first, uint8_t second);
+/** Parses a GetDefaultProfileNum response (0x0049).
+ *  Stores the result item 0x02 in result, then decodes the mandatory item 0x01 (u8 profile number).
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @param profileNumber Receives the index of the default profile (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result, profileNumber),
+ *      ZOVQMI_ERR_NO_MESSAGE (no message 0x0049 in msg), ZOVQMI_ERR_NO_TLV (no result item),
+ *      ZOVQMI_ERR_NO_MANDATORY (no item 0x01; result already filled), ZOVQMI_ERR_MALFORMED (a field read lies
+ *      beyond len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSGetDefaultProfileNumResp(const uint8_t* msg, int len, QmiResult* result,
                                                  uint8_t* profileNumber);
+/** @} */
+/** @defgroup wds_set_default_profile_num SetDefaultProfileNum (0x004A)
+ *  @ingroup svc_wds
+ *  @brief Sets which profile a profile type and family use by default.
+ *  @{
+ */
+/** Builds a SetDefaultProfileNum request (0x004A).
+ *  Writes the 7-byte service header and the mandatory item 0x01 (u8 profile type, u8 profile family, u8 profile
+ *  number): 13 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 13.
+ *  @param first Profile type: 0 3GPP, 1 3GPP2 (first byte of item 0x01).
+ *  @param second Profile family: 0 embedded, 1 tethered (second byte of item 0x01).
+ *  @param profileNumber Index of the profile to make the default (third byte).
+ *  @return 13, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 13 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSSetDefaultProfileNumReq(uint8_t* buf, int bufsize, uint8_t first, uint8_t second,
                                                 uint8_t profileNumber);
+/** Parses a SetDefaultProfileNum response (0x004A).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x004A in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSSetDefaultProfileNumResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wds_set_client_ip_family_pref SetClientIPFamilyPref (0x004D)
+ *  @ingroup svc_wds
+ *  @brief Declares the IP family this client works with.
+ *  @{
+ */
+/** Builds a SetClientIPFamilyPref request (0x004D).
+ *  Writes the 7-byte service header and the mandatory item 0x01 (u8 IP family): 11 bytes.
+ *  Takes the next transaction id.
+ *  @param buf Buffer that receives the request (required).
+ *  @param bufsize Capacity of buf in bytes; at least 11.
+ *  @param ipFamily IP family of the client: 4 IPv4, 6 IPv6.
+ *  @return 11, the request length; ZOVQMI_ERR_ARG when buf is null or bufsize is below 11 (nothing written).
+ */
 ZOVQMI_API int zovQMIWDSSetClientIPFamilyPrefReq(uint8_t* buf, int bufsize, uint8_t ipFamily);
+/** Parses a SetClientIPFamilyPref response (0x004D).
+ *  Stores the result item 0x02 in result; the response has no other item.
+ *  @param msg Received message, QMUX header removed (as zovQMIDeviceRead() gives it).
+ *  @param len Length of msg in bytes; nothing beyond it is read.
+ *  @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code (required).
+ *  @return The item-area length of the message; ZOVQMI_ERR_ARG (null msg, result), ZOVQMI_ERR_NO_MESSAGE (no
+ *      message 0x004D in msg), ZOVQMI_ERR_NO_TLV (no result item), ZOVQMI_ERR_MALFORMED (a field read lies beyond
+ *      len; nothing written).
+ */
 ZOVQMI_API int zovQMIWDSSetClientIPFamilyPrefResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
 /* ------------------------------------------------------------ end WDS -- */
 
