@@ -509,7 +509,8 @@ ZOVQMI_API int zovQMIWDSSetClientIPFamilyPrefResp(const uint8_t* msg, int len, Q
  *  lock.
  *  @note Deliberate: parsers read fixed fields at their offsets and take counts and lengths from the message as they
  *  stand, without comparing them with the item's length: a short item is read on into the bytes that follow it. Only
- *  a read past the end of the received message is refused, with ZOVQMI_ERR_MALFORMED and no output written.
+ *  a read past the end of the received message is refused, with ZOVQMI_ERR_MALFORMED, and the outputs of that
+ *  item are then left untouched.
  */
 
 #pragma pack(push, 1)
@@ -1658,7 +1659,8 @@ ZOVQMI_API int zovQMIDMSUIMGetStateResp(const uint8_t* msg, int len, QmiResult* 
  *  selection.
  *  @note Deliberate: parsers read fixed fields at their offsets and take counts and lengths from the message as they
  *  stand, without comparing them with the item's length: a short item is read on into the bytes that follow it. Only
- *  a read past the end of the received message is refused, with ZOVQMI_ERR_MALFORMED and no output written.
+ *  a read past the end of the received message is refused, with ZOVQMI_ERR_MALFORMED, and the outputs of that
+ *  item are then left untouched.
  */
 #pragma pack(push, 1)
 
@@ -3106,7 +3108,8 @@ ZOVQMI_API int zovQMINASDDTMIND(const uint8_t* msg, int len, uint8_t* first, uin
  *  settings.
  *  @note Deliberate: parsers read fixed fields at their offsets and take counts and lengths from the message as they
  *  stand, without comparing them with the item's length: a short item is read on into the bytes that follow it. Only
- *  a read past the end of the received message is refused, with ZOVQMI_ERR_MALFORMED and no output written.
+ *  a read past the end of the received message is refused, with ZOVQMI_ERR_MALFORMED, and the outputs of that
+ *  item are then left untouched.
  */
 #pragma pack(push, 1)
 
