@@ -2957,532 +2957,3736 @@ ZOVQMI_API int zovQMIWDSSetClientIPFamilyPrefResp(const uint8_t* msg, int len, Q
 
 
 /* ---------------------------------------------------------------- DMS -- */
+/** @defgroup svc_dms DMS: device management service (service 2)
+ *  @brief Identity, capabilities, power, operating mode and time of the modem; UIM PIN, personalisation and user
+ *  lock.
+ *  @note Deliberate: parsers read fixed fields at their offsets and take counts and lengths from the message as they
+ *  stand, without comparing them with the item's length: a short item is read on into the bytes that follow it. Only
+ *  a read past the end of the received message is refused, with ZOVQMI_ERR_MALFORMED, and the outputs of that
+ *  item are then left untouched.
+ */
 
 #pragma pack(push, 1)
 
-/* DMS: the device capabilities of GetDeviceCap.  The parser fills the first
- * five fields (the u32 fields little-endian on every host); `list` is set by
- * the caller before the call: when non-null, `listCount` list bytes are
- * copied into it (up to 255), when null nothing more is copied.
- * 15 bytes on 32-bit hosts. */
+/** The device capabilities of a GetDeviceCap response (item 0x01), filled by zovQMIDMSGetDeviceCapResp().
+ *  11 bytes plus a native pointer: 15 bytes on 32-bit hosts. Packed; the multi-byte integer fields hold
+ *  little-endian bytes on every host (read them byte by byte). The parser fills the first five fields; `list` is
+ *  set by the caller before the call and never written.
+ *  @ingroup dms_get_device_cap
+ */
 typedef struct DMSDeviceCapabilities {
-    uint32_t capability1;
-    uint32_t capability2;
-    uint8_t capabilityByte1;
-    uint8_t capabilityByte2;
-    uint8_t listCount;
-    uint8_t* list;
+    uint32_t capability1;     /**< maximum transmit data rate in bits per second (little-endian bytes) */
+    uint32_t capability2;     /**< maximum receive data rate in bits per second (little-endian bytes) */
+    uint8_t capabilityByte1;  /**< data service: 0 none, 1 circuit switched only, 2 packet switched only, 3 both
+                                   at once, 4 both but not at once */
+    uint8_t capabilityByte2;  /**< SIM capability: 1 not supported, 2 supported */
+    uint8_t listCount;        /**< number of radio interface bytes that follow in the item */
+    uint8_t* list;            /**< caller buffer for the listCount radio interface bytes (1 cdma2000 1x,
+                                   2 cdma2000 HRPD, 4 GSM, 5 UMTS, 8 LTE), up to 255; null copies nothing */
 } DMSDeviceCapabilities;
 
 #pragma pack(pop)
 
-/* Device identity and state. */
+/** @defgroup dms_reset Reset (0x0000)
+ *  @ingroup svc_dms
+ *  @brief Resets the DMS state of the client.
+ *  @{
+ */
+/** Builds a Reset request (0x0000): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSResetReq(uint8_t* buf, int bufsize);
+/** Parses a Reset response (0x0000): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0000 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIDMSResetResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup dms_set_event_report SetEventReport (0x0001)
+ *  @ingroup svc_dms
+ *  @brief Chooses which changes the modem reports with the EventReport indication.
+ *  @{
+ */
+/** Builds a SetEventReport request (0x0001): the 7-byte header, no item.
+ *  Append the reporting items with the zovQMIDMSSetEventReportReqAdd... functions (item 0x13 is not offered).
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSSetEventReportReq(uint8_t* buf, int bufsize);
+/** Appends item 0x10 PowerStateReporting to a SetEventReport request (0x0001).
+ *  Adds 4 bytes: type, length 1, the mode byte.
+ *  @param buf the request, begun by zovQMIDMSSetEventReportReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param mode reporting switch: 0 do not report, 1 report
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSSetEventReportReqAddPowerStateReporting(uint8_t* buf, int bufsize, uint8_t mode);
+/** Appends item 0x11 BatteryLevelReportLimits to a SetEventReport request (0x0001).
+ *  Adds 5 bytes: type, length 2, lower then upper limit.
+ *  @param buf the request, begun by zovQMIDMSSetEventReportReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param lower lower battery level limit, in percent
+ *  @param upper upper battery level limit, in percent
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSSetEventReportReqAddBatteryLevelReportLimits(uint8_t* buf, int bufsize, uint8_t lower,
                                                                     uint8_t upper);
+/** Appends item 0x12 PINStateReporting to a SetEventReport request (0x0001).
+ *  Adds 4 bytes: type, length 1, the mode byte.
+ *  @param buf the request, begun by zovQMIDMSSetEventReportReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param mode reporting switch: 0 do not report, 1 report
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSSetEventReportReqAddPINStateReporting(uint8_t* buf, int bufsize, uint8_t mode);
+/** Appends item 0x14 OperatingModeReporting to a SetEventReport request (0x0001).
+ *  Adds 4 bytes: type, length 1, the mode byte.
+ *  @param buf the request, begun by zovQMIDMSSetEventReportReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param mode reporting switch: 0 do not report, 1 report
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSSetEventReportReqAddOperatingModeReporting(uint8_t* buf, int bufsize, uint8_t mode);
+/** Appends item 0x15 UIMStateReporting to a SetEventReport request (0x0001).
+ *  Adds 4 bytes: type, length 1, the mode byte.
+ *  @param buf the request, begun by zovQMIDMSSetEventReportReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param mode reporting switch: 0 do not report, 1 report
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSSetEventReportReqAddUIMStateReporting(uint8_t* buf, int bufsize, uint8_t mode);
+/** Parses a SetEventReport response (0x0001): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0001 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIDMSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup dms_event_report EventReport indication (0x0001)
+ *  @ingroup svc_dms
+ *  @brief The changes a client asked for with SetEventReport; it carries the id of that request.
+ *  @{
+ */
+/** Confirms that msg holds an EventReport indication (0x0001).
+ *  Only the message id is checked; read the items with the zovQMIDMSEventReportINDGet... functions.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @return the TLV-area length; ZOVQMI_ERR_ARG: msg is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0001 in msg. No item
+ *          is read, so it never gives ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMIDMSEventReportIND(const uint8_t* msg, int len);
+/** Reads the power state of an EventReport indication.
+ *  Reads item 0x10 PowerState of a EventReport message (0x0001): power state byte, battery level byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param powerState receives the power state bits: bit 0 set on external power, bit 1 set while the battery charges
+ *         (required)
+ *  @param batteryLevel receives the battery level in percent, 0 to 100 (required)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg, powerState or batteryLevel is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0001 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an
+ *          item or a field read runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSEventReportINDGetPowerState(const uint8_t* msg, int len, uint8_t* powerState,
                                                    uint8_t* batteryLevel);
+/** Reads the PIN1 status of an EventReport indication.
+ *  Reads item 0x11 PIN1Status of a EventReport message (0x0001): status byte, then the two retries counters.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param status receives the PIN status: 0 not initialised, 1 enabled and not verified, 2 enabled and verified, 3
+ *         disabled, 4 blocked, 5 permanently blocked, 6 unblocked, 7 changed (required)
+ *  @param retries1 receives the number of verify attempts left (required)
+ *  @param retries2 receives the number of unblock attempts left (required)
+ *  @return the value length of item 0x11; ZOVQMI_ERR_ARG: msg or any of the three outputs is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0001 in msg; ZOVQMI_ERR_NO_TLV: no item 0x11; ZOVQMI_ERR_MALFORMED: an
+ *          item or a field read runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSEventReportINDGetPIN1Status(const uint8_t* msg, int len, uint8_t* status, uint8_t* retries1,
                                                    uint8_t* retries2);
+/** Reads the PIN2 status of an EventReport indication.
+ *  Reads item 0x12 PIN2Status of a EventReport message (0x0001): status byte, then the two retries counters.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param status receives the PIN status: 0 not initialised, 1 enabled and not verified, 2 enabled and verified, 3
+ *         disabled, 4 blocked, 5 permanently blocked, 6 unblocked, 7 changed (required)
+ *  @param retries1 receives the number of verify attempts left (required)
+ *  @param retries2 receives the number of unblock attempts left (required)
+ *  @return the value length of item 0x12; ZOVQMI_ERR_ARG: msg or any of the three outputs is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0001 in msg; ZOVQMI_ERR_NO_TLV: no item 0x12; ZOVQMI_ERR_MALFORMED: an
+ *          item or a field read runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSEventReportINDGetPIN2Status(const uint8_t* msg, int len, uint8_t* status, uint8_t* retries1,
                                                    uint8_t* retries2);
+/** Reads the operating mode of an EventReport indication.
+ *  Reads item 0x14 OperatingMode of a EventReport message (0x0001): one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param mode receives the operating mode: 0 online, 1 low power, 2 factory test, 3 offline, 4 resetting, 5 shutting
+ *         down, 6 persistent low power, 7 mode-only low power (required)
+ *  @return the value length of item 0x14; ZOVQMI_ERR_ARG: msg or mode is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0001 in msg; ZOVQMI_ERR_NO_TLV: no item 0x14; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSEventReportINDGetOperatingMode(const uint8_t* msg, int len, uint8_t* mode);
+/** Reads the UIM state of an EventReport indication.
+ *  Reads item 0x15 UIMState of a EventReport message (0x0001): one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param state receives the UIM state: 0x00 initialised, 0x01 initialisation failed, 0x02 not present, 0xFF state
+ *         unavailable (required)
+ *  @return the value length of item 0x15; ZOVQMI_ERR_ARG: msg or state is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0001 in msg; ZOVQMI_ERR_NO_TLV: no item 0x15; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSEventReportINDGetUIMState(const uint8_t* msg, int len, uint8_t* state);
+/** @} */
+/** @defgroup dms_get_device_cap GetDeviceCap (0x0020)
+ *  @ingroup svc_dms
+ *  @brief Asks for the device capabilities: data rates, data and SIM capability, radio interfaces.
+ *  @{
+ */
+/** Builds a GetDeviceCap request (0x0020): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSGetDeviceCapReq(uint8_t* buf, int bufsize);
+/** Parses a GetDeviceCap response (0x0020) into a DMSDeviceCapabilities record.
+ *  Item 0x01 holds two u32, two bytes, a count and count list bytes; see DMSDeviceCapabilities for where each goes.
+ *  The list bytes are copied only when caps->list is non-null; the count is not compared with the item length.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param caps receives the capabilities (required); set caps->list beforehand to a buffer of up to 255 bytes, or to
+ *         null to skip the list
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or caps is
+ *          null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0020 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIDMSGetDeviceCapResp(const uint8_t* msg, int len, QmiResult* result,
                                          DMSDeviceCapabilities* caps);
+/** @} */
+/** @defgroup dms_get_device_mfr GetDeviceMfr (0x0021)
+ *  @ingroup svc_dms
+ *  @brief Asks for the manufacturer name.
+ *  @{
+ */
+/** Builds a GetDeviceMfr request (0x0021): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSGetDeviceMfrReq(uint8_t* buf, int bufsize);
+/** Parses a GetDeviceMfr response (0x0021): the manufacturer name from item 0x01.
+ *  The whole value of item 0x01 is the text, of any length, not terminated.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param length receives the length of the manufacturer name in bytes, the item's value length (required)
+ *  @param data receives the manufacturer name bytes, no terminator added; may be null to learn the length first. No
+ *         capacity is checked: provide room for *length bytes (at most 65535)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or length is
+ *          null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0021 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIDMSGetDeviceMfrResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length,
                                          void* data);
+/** @} */
+/** @defgroup dms_get_device_model_id GetDeviceModelID (0x0022)
+ *  @ingroup svc_dms
+ *  @brief Asks for the model identifier.
+ *  @{
+ */
+/** Builds a GetDeviceModelID request (0x0022): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSGetDeviceModelIDReq(uint8_t* buf, int bufsize);
+/** Parses a GetDeviceModelID response (0x0022): the model identifier from item 0x01.
+ *  The whole value of item 0x01 is the text, of any length, not terminated.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param length receives the length of the model identifier in bytes, the item's value length (required)
+ *  @param data receives the model identifier bytes, no terminator added; may be null to learn the length first. No
+ *         capacity is checked: provide room for *length bytes (at most 65535)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or length is
+ *          null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0022 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIDMSGetDeviceModelIDResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length,
                                              void* data);
+/** @} */
+/** @defgroup dms_get_device_rev_id GetDeviceRevID (0x0023)
+ *  @ingroup svc_dms
+ *  @brief Asks for the firmware revision.
+ *  @{
+ */
+/** Builds a GetDeviceRevID request (0x0023): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSGetDeviceRevIDReq(uint8_t* buf, int bufsize);
+/** Parses a GetDeviceRevID response (0x0023): the firmware revision from item 0x01.
+ *  The whole value of item 0x01 is the text, of any length, not terminated.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param length receives the length of the firmware revision in bytes, the item's value length (required)
+ *  @param data receives the firmware revision bytes, no terminator added; may be null to learn the length first. No
+ *         capacity is checked: provide room for *length bytes (at most 65535)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or length is
+ *          null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0023 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIDMSGetDeviceRevIDResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length,
                                            void* data);
+/** @} */
+/** @defgroup dms_get_msisdn GetMSISDN (0x0024)
+ *  @ingroup svc_dms
+ *  @brief Asks for the phone number of the SIM and the mobile identifier.
+ *  @{
+ */
+/** Builds a GetMSISDN request (0x0024): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSGetMSISDNReq(uint8_t* buf, int bufsize);
+/** Parses a GetMSISDN response (0x0024): the phone number (MSISDN) from item 0x01.
+ *  The whole value of item 0x01 is the text, of any length, not terminated.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param length receives the length of the phone number (MSISDN) in bytes, the item's value length (required)
+ *  @param data receives the phone number (MSISDN) bytes, no terminator added; may be null to learn the length first.
+ *         No capacity is checked: provide room for *length bytes (at most 65535)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or length is
+ *          null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0024 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIDMSGetMSISDNResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length, void* data);
+/** Reads the mobile identifier (MIN) of a GetMSISDN response.
+ *  Reads item 0x10 MobileID of a GetMSISDN message (0x0024): the whole value is the text.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param length receives the length of the mobile identifier in bytes, the item's value length (required)
+ *  @param data receives the mobile identifier bytes, no terminator added; may be null to learn the length first. No
+ *         capacity is checked: provide room for *length bytes (at most 65535)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg or length is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0024 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSGetMSISDNRespGetMobileID(const uint8_t* msg, int len, uint16_t* length, void* data);
+/** @} */
+/** @defgroup dms_get_device_serial_numbers GetDeviceSerialNumbers (0x0025)
+ *  @ingroup svc_dms
+ *  @brief Asks for the serial numbers: ESN, IMEI and MEID, each optional.
+ *  @{
+ */
+/** Builds a GetDeviceSerialNumbers request (0x0025): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSGetDeviceSerialNumbersReq(uint8_t* buf, int bufsize);
+/** Parses a GetDeviceSerialNumbers response (0x0025): only the result item 0x02 is read.
+ *  Every serial number is an optional item: read them with the RespGet functions.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0025 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIDMSGetDeviceSerialNumbersResp(const uint8_t* msg, int len, QmiResult* result);
+/** Reads the ESN of a GetDeviceSerialNumbers response.
+ *  Reads item 0x10 ESN of a GetDeviceSerialNumbers message (0x0025): the whole value is the text.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param length receives the length of the ESN in bytes, the item's value length (required)
+ *  @param data receives the ESN bytes, no terminator added; may be null to learn the length first. No capacity is
+ *         checked: provide room for *length bytes (at most 65535)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg or length is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0025 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSGetDeviceSerialNumbersRespGetESN(const uint8_t* msg, int len, uint16_t* length, void* data);
+/** Reads the IMEI of a GetDeviceSerialNumbers response.
+ *  Reads item 0x11 IMEI of a GetDeviceSerialNumbers message (0x0025): the whole value is the text.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param length receives the length of the IMEI in bytes, the item's value length (required)
+ *  @param data receives the IMEI bytes, no terminator added; may be null to learn the length first. No capacity is
+ *         checked: provide room for *length bytes (at most 65535)
+ *  @return the value length of item 0x11; ZOVQMI_ERR_ARG: msg or length is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0025 in msg; ZOVQMI_ERR_NO_TLV: no item 0x11; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSGetDeviceSerialNumbersRespGetIMEI(const uint8_t* msg, int len, uint16_t* length,
                                                          void* data);
+/** Reads the MEID of a GetDeviceSerialNumbers response.
+ *  Reads item 0x12 MEID of a GetDeviceSerialNumbers message (0x0025): the whole value is the text.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param length receives the length of the MEID in bytes, the item's value length (required)
+ *  @param data receives the MEID bytes, no terminator added; may be null to learn the length first. No capacity is
+ *         checked: provide room for *length bytes (at most 65535)
+ *  @return the value length of item 0x12; ZOVQMI_ERR_ARG: msg or length is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0025 in msg; ZOVQMI_ERR_NO_TLV: no item 0x12; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSGetDeviceSerialNumbersRespGetMEID(const uint8_t* msg, int len, uint16_t* length,
                                                          void* data);
+/** @} */
+/** @defgroup dms_get_power_state GetPowerState (0x0026)
+ *  @ingroup svc_dms
+ *  @brief Asks for the power source and battery level.
+ *  @{
+ */
+/** Builds a GetPowerState request (0x0026): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSGetPowerStateReq(uint8_t* buf, int bufsize);
+/** Parses a GetPowerState response (0x0026): power state and battery level.
+ *  Item 0x01: power state byte, battery level byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param powerState receives the power state bits: bit 0 set on external power, bit 1 set while the battery charges
+ *         (required)
+ *  @param batteryLevel receives the battery level in percent, 0 to 100 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result, powerState
+ *          or batteryLevel is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0026 in msg; ZOVQMI_ERR_NO_TLV: no result
+ *          item (result untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an
+ *          item or a field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIDMSGetPowerStateResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* powerState,
                                           uint8_t* batteryLevel);
+/** @} */
+/** @defgroup dms_get_device_hardware_rev GetDeviceHardwareRev (0x002C)
+ *  @ingroup svc_dms
+ *  @brief Asks for the hardware revision.
+ *  @{
+ */
+/** Builds a GetDeviceHardwareRev request (0x002C): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSGetDeviceHardwareRevReq(uint8_t* buf, int bufsize);
+/** Parses a GetDeviceHardwareRev response (0x002C): the hardware revision from item 0x01.
+ *  The whole value of item 0x01 is the text, of any length, not terminated.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param length receives the length of the hardware revision in bytes, the item's value length (required)
+ *  @param data receives the hardware revision bytes, no terminator added; may be null to learn the length first. No
+ *         capacity is checked: provide room for *length bytes (at most 65535)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or length is
+ *          null; ZOVQMI_ERR_NO_MESSAGE: no message 0x002C in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIDMSGetDeviceHardwareRevResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length,
                                                  void* data);
+/** @} */
+/** @defgroup dms_get_operating_mode GetOperatingMode (0x002D)
+ *  @ingroup svc_dms
+ *  @brief Asks for the operating mode.
+ *  @{
+ */
+/** Builds a GetOperatingMode request (0x002D): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSGetOperatingModeReq(uint8_t* buf, int bufsize);
+/** Parses a GetOperatingMode response (0x002D).
+ *  Item 0x01: one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param mode receives the operating mode: 0 online, 1 low power, 2 factory test, 3 offline, 4 resetting, 5 shutting
+ *         down, 6 persistent low power, 7 mode-only low power (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or mode is
+ *          null; ZOVQMI_ERR_NO_MESSAGE: no message 0x002D in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIDMSGetOperatingModeResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* mode);
+/** @} */
+/** @defgroup dms_set_operating_mode SetOperatingMode (0x002E)
+ *  @ingroup svc_dms
+ *  @brief Puts the modem into another operating mode (online, low power, offline, reset...).
+ *  @{
+ */
+/** Builds a SetOperatingMode request (0x002E) with its mandatory item 0x01.
+ *  Item 0x01 holds the mode byte (message bytes 7 to 10).
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param mode the operating mode to enter: 0 online, 1 low power, 2 factory test, 3 offline, 4 resetting, 5 shutting
+ *         down, 6 persistent low power, 7 mode-only low power
+ *  @return 11, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 11.
+ */
 ZOVQMI_API int zovQMIDMSSetOperatingModeReq(uint8_t* buf, int bufsize, uint8_t mode);
+/** Parses a SetOperatingMode response (0x002E): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x002E in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIDMSSetOperatingModeResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup dms_get_time GetTime (0x002F)
+ *  @ingroup svc_dms
+ *  @brief Asks for the device time, and optionally the system and user times in milliseconds.
+ *  @{
+ */
+/** Builds a GetTime request (0x002F): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSGetTimeReq(uint8_t* buf, int bufsize);
-/* timeCount receives the 6 bytes of the time count exactly as they stand on the wire. */
+/** Parses a GetTime response (0x002F): the 6-byte time count and the time source.
+ *  Item 0x01: a 6-byte count of 1.25 ms units since 1980-01-06 00:00:00, little-endian, then a u16.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param timeCount receives the 6 count bytes as they stand on the wire, least significant byte first (required)
+ *  @param timeField2 receives the time source: 0 device, 1 CDMA network, 2 HDR network (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result, timeCount
+ *          or timeField2 is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x002F in msg; ZOVQMI_ERR_NO_TLV: no result item
+ *          (result untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item
+ *          or a field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ *  @note Deliberate: the time count is handed over as its 6 raw wire bytes, not converted to a number.
+ */
 ZOVQMI_API int zovQMIDMSGetTimeResp(const uint8_t* msg, int len, QmiResult* result, uint8_t timeCount[6],
                                     uint16_t* timeField2);
+/** Reads the system time in milliseconds of a GetTime response.
+ *  Reads item 0x10 SystemTimeInMS of a GetTime message (0x002F): a u64, low 32-bit word first.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param ms receives the system time in milliseconds since 1980-01-06 00:00:00, native value (required)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg or ms is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x002F
+ *          in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an item or a field read runs past the end
+ *          of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSGetTimeRespGetSystemTimeInMS(const uint8_t* msg, int len, uint64_t* ms);
+/** Reads the user time in milliseconds of a GetTime response.
+ *  Reads item 0x11 UserTimeInMS of a GetTime message (0x002F): a u64, low 32-bit word first.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param ms receives the user time in milliseconds since 1980-01-06 00:00:00, native value (required)
+ *  @return the value length of item 0x11; ZOVQMI_ERR_ARG: msg or ms is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x002F
+ *          in msg; ZOVQMI_ERR_NO_TLV: no item 0x11; ZOVQMI_ERR_MALFORMED: an item or a field read runs past the end
+ *          of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSGetTimeRespGetUserTimeInMS(const uint8_t* msg, int len, uint64_t* ms);
+/** @} */
+/** @defgroup dms_get_prl_ver GetPRLVer (0x0030)
+ *  @ingroup svc_dms
+ *  @brief Asks for the version of the preferred roaming list (PRL).
+ *  @{
+ */
+/** Builds a GetPRLVer request (0x0030): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSGetPRLVerReq(uint8_t* buf, int bufsize);
+/** Parses a GetPRLVer response (0x0030): the PRL version.
+ *  Item 0x01: a u16, little-endian on the wire.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param version receives the PRL version, native value (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or version
+ *          is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0030 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIDMSGetPRLVerResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* version);
+/** @} */
+/** @defgroup dms_get_band_capability GetBandCapability (0x0045)
+ *  @ingroup svc_dms
+ *  @brief Asks for the radio bands the modem supports.
+ *  @{
+ */
+/** Builds a GetBandCapability request (0x0045): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSGetBandCapabilityReq(uint8_t* buf, int bufsize);
+/** Parses a GetBandCapability response (0x0045): the band mask.
+ *  Item 0x01: a u64, low 32-bit word first.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param bands receives the band capability mask, one bit per band as the modem defines them, native value
+ *         (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or bands is
+ *          null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0045 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIDMSGetBandCapabilityResp(const uint8_t* msg, int len, QmiResult* result, uint64_t* bands);
+/** @} */
+/** @defgroup dms_set_time SetTime (0x004B)
+ *  @ingroup svc_dms
+ *  @brief Sets the device time.
+ *  @{
+ */
+/** Builds a SetTime request (0x004B) with its mandatory item 0x01.
+ *  Item 0x01 holds the time as a u64, low 32-bit word first (message bytes 10 to 17).
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param time the time to set, in milliseconds since 1980-01-06 00:00:00
+ *  @return 18, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 18.
+ */
 ZOVQMI_API int zovQMIDMSSetTimeReq(uint8_t* buf, int bufsize, uint64_t time);
+/** Appends item 0x10 TimeReferenceType to a SetTime request (0x004B).
+ *  Adds 7 bytes: type, length 4, the type as a little-endian u32.
+ *  @param buf the request, begun by zovQMIDMSSetTimeReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param type the time reference: 0 user time
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSSetTimeReqAddTimeReferenceType(uint8_t* buf, int bufsize, uint32_t type);
+/** Parses a SetTime response (0x004B): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x004B in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIDMSSetTimeResp(const uint8_t* msg, int len, QmiResult* result);
 
-/* UIM PIN and personalisation.  PINs and keys are a length byte and that many
- * bytes; a zero length never reads its pointer. */
+/** @} */
+/** @defgroup dms_uim_set_pin_protection UIMSetPINProtection (0x0027)
+ *  @ingroup svc_dms
+ *  @brief Enables or disables the request for a PIN.
+ *  @{
+ */
+/** Builds a UIMSetPINProtection request (0x0027) with its mandatory item 0x01.
+ *  Item 0x01 (length 3 + pinLength): PIN id, protection setting, PIN length byte, PIN bytes.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param pinId the PIN: 1 PIN1, 2 PIN2
+ *  @param protection the protection setting: 0 disable the PIN, 1 enable it
+ *  @param pinLength length of pin in bytes; only its low 8 bits are used
+ *  @param pin PIN bytes, copied as they are (no terminator); may be null when pinLength is 0
+ *  @return 13 + pinLength, the message length; ZOVQMI_ERR_ARG when buf is null, when bufsize is below 13 + pinLength,
+ *          or when pinLength is non-zero and pin is null.
+ */
 ZOVQMI_API int zovQMIDMSUIMSetPINProtectionReq(uint8_t* buf, int bufsize, uint8_t pinId, uint8_t protection,
                                                uint8_t pinLength, const uint8_t* pin);
+/** Parses a UIMSetPINProtection response (0x0027): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0027 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIDMSUIMSetPINProtectionResp(const uint8_t* msg, int len, QmiResult* result);
+/** Reads the retries left of a UIMSetPINProtection response.
+ *  Reads item 0x10 RetriesLeft of a UIMSetPINProtection message (0x0027): verify attempts left byte, unblock attempts
+ *  left byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param verifyLeft receives the number of verify attempts left (required)
+ *  @param unblockLeft receives the number of unblock attempts left (required)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg, verifyLeft or unblockLeft is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0027 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an
+ *          item or a field read runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSUIMSetPINProtectionRespGetRetriesLeft(const uint8_t* msg, int len, uint8_t* verifyLeft,
                                                               uint8_t* unblockLeft);
+/** @} */
+/** @defgroup dms_uim_verify_pin UIMVerifyPIN (0x0028)
+ *  @ingroup svc_dms
+ *  @brief Verifies a PIN.
+ *  @{
+ */
+/** Builds a UIMVerifyPIN request (0x0028) with its mandatory item 0x01.
+ *  Item 0x01 (length 2 + pinLength): PIN id, PIN length byte, PIN bytes.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param pinId the PIN: 1 PIN1, 2 PIN2
+ *  @param pinLength length of pin in bytes; only its low 8 bits are used
+ *  @param pin PIN bytes, copied as they are (no terminator); may be null when pinLength is 0
+ *  @return 12 + pinLength, the message length; ZOVQMI_ERR_ARG when buf is null, when bufsize is below 12 + pinLength,
+ *          or when pinLength is non-zero and pin is null.
+ */
 ZOVQMI_API int zovQMIDMSUIMVerifyPINReq(uint8_t* buf, int bufsize, uint8_t pinId, uint8_t pinLength,
                                         const uint8_t* pin);
+/** Parses a UIMVerifyPIN response (0x0028): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0028 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIDMSUIMVerifyPINResp(const uint8_t* msg, int len, QmiResult* result);
+/** Reads the retries left of a UIMVerifyPIN response.
+ *  Reads item 0x10 RetriesLeft of a UIMVerifyPIN message (0x0028): verify attempts left byte, unblock attempts left
+ *  byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param verifyLeft receives the number of verify attempts left (required)
+ *  @param unblockLeft receives the number of unblock attempts left (required)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg, verifyLeft or unblockLeft is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0028 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an
+ *          item or a field read runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSUIMVerifyPINRespGetRetriesLeft(const uint8_t* msg, int len, uint8_t* verifyLeft,
                                                        uint8_t* unblockLeft);
+/** @} */
+/** @defgroup dms_uim_unblock_pin UIMUnblockPIN (0x0029)
+ *  @ingroup svc_dms
+ *  @brief Unblocks a blocked PIN with its unblock key (PUK) and sets a new PIN.
+ *  @{
+ */
+/** Builds a UIMUnblockPIN request (0x0029) with its mandatory item 0x01.
+ *  Item 0x01 (length 3 + keyLength + newPinLength): PIN id, key length byte, key bytes, new PIN length byte right
+ *  behind the key, new PIN bytes.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param pinId the PIN: 1 PIN1, 2 PIN2
+ *  @param keyLength length of key in bytes; only its low 8 bits are used
+ *  @param key unblock key (PUK) bytes, copied as they are (no terminator); may be null when keyLength is 0
+ *  @param newPinLength length of newPin in bytes; only its low 8 bits are used
+ *  @param newPin new PIN bytes, copied as they are (no terminator); may be null when newPinLength is 0
+ *  @return 13 + keyLength + newPinLength, the message length; ZOVQMI_ERR_ARG when buf is null, when bufsize is below
+ *          13 + keyLength + newPinLength, or when a non-zero length comes with a null pointer.
+ */
 ZOVQMI_API int zovQMIDMSUIMUnblockPINReq(uint8_t* buf, int bufsize, uint8_t pinId, uint8_t keyLength,
                                          const uint8_t* key, uint8_t newPinLength, const uint8_t* newPin);
+/** Parses a UIMUnblockPIN response (0x0029): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0029 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIDMSUIMUnblockPINResp(const uint8_t* msg, int len, QmiResult* result);
+/** Reads the retries left of a UIMUnblockPIN response.
+ *  Reads item 0x10 RetriesLeft of a UIMUnblockPIN message (0x0029): verify attempts left byte, unblock attempts left
+ *  byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param verifyLeft receives the number of verify attempts left (required)
+ *  @param unblockLeft receives the number of unblock attempts left (required)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg, verifyLeft or unblockLeft is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0029 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an
+ *          item or a field read runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSUIMUnblockPINRespGetRetriesLeft(const uint8_t* msg, int len, uint8_t* verifyLeft,
                                                         uint8_t* unblockLeft);
+/** @} */
+/** @defgroup dms_uim_change_pin UIMChangePIN (0x002A)
+ *  @ingroup svc_dms
+ *  @brief Replaces a PIN by a new one.
+ *  @{
+ */
+/** Builds a UIMChangePIN request (0x002A) with its mandatory item 0x01.
+ *  Item 0x01 (length 3 + oldPinLength + newPinLength): PIN id, old PIN length byte, old PIN bytes, new PIN length
+ *  byte right behind them, new PIN bytes.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param pinId the PIN: 1 PIN1, 2 PIN2
+ *  @param oldPinLength length of oldPin in bytes; only its low 8 bits are used
+ *  @param oldPin current PIN bytes, copied as they are (no terminator); may be null when oldPinLength is 0
+ *  @param newPinLength length of newPin in bytes; only its low 8 bits are used
+ *  @param newPin new PIN bytes, copied as they are (no terminator); may be null when newPinLength is 0
+ *  @return 13 + oldPinLength + newPinLength, the message length; ZOVQMI_ERR_ARG when buf is null, when bufsize is
+ *          below 13 + oldPinLength + newPinLength, or when a non-zero length comes with a null pointer.
+ */
 ZOVQMI_API int zovQMIDMSUIMChangePINReq(uint8_t* buf, int bufsize, uint8_t pinId, uint8_t oldPinLength,
                                         const uint8_t* oldPin, uint8_t newPinLength, const uint8_t* newPin);
+/** Parses a UIMChangePIN response (0x002A): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x002A in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIDMSUIMChangePINResp(const uint8_t* msg, int len, QmiResult* result);
+/** Reads the retries left of a UIMChangePIN response.
+ *  Reads item 0x10 RetriesLeft of a UIMChangePIN message (0x002A): verify attempts left byte, unblock attempts left
+ *  byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param verifyLeft receives the number of verify attempts left (required)
+ *  @param unblockLeft receives the number of unblock attempts left (required)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg, verifyLeft or unblockLeft is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x002A in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an
+ *          item or a field read runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSUIMChangePINRespGetRetriesLeft(const uint8_t* msg, int len, uint8_t* verifyLeft,
                                                        uint8_t* unblockLeft);
+/** @} */
+/** @defgroup dms_uim_get_pin_status UIMGetPINStatus (0x002B)
+ *  @ingroup svc_dms
+ *  @brief Asks for the status and retries left of PIN1 and PIN2.
+ *  @{
+ */
+/** Builds a UIMGetPINStatus request (0x002B): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSUIMGetPINStatusReq(uint8_t* buf, int bufsize);
+/** Parses a UIMGetPINStatus response (0x002B): only the result item 0x02 is read.
+ *  The two PIN states are optional items: read them with the RespGet functions.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x002B in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIDMSUIMGetPINStatusResp(const uint8_t* msg, int len, QmiResult* result);
+/** Reads the PIN1 status of a UIMGetPINStatus response.
+ *  Reads item 0x11 PIN1Status of a UIMGetPINStatus message (0x002B): status byte, verify attempts left, unblock
+ *  attempts left.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param status receives the PIN status: 0 not initialised, 1 enabled and not verified, 2 enabled and verified, 3
+ *         disabled, 4 blocked, 5 permanently blocked, 6 unblocked, 7 changed (required)
+ *  @param verifyLeft receives the number of verify attempts left (required)
+ *  @param unblockLeft receives the number of unblock attempts left (required)
+ *  @return the value length of item 0x11; ZOVQMI_ERR_ARG: msg or any of the three outputs is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x002B in msg; ZOVQMI_ERR_NO_TLV: no item 0x11; ZOVQMI_ERR_MALFORMED: an
+ *          item or a field read runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSUIMGetPINStatusRespGetPIN1Status(const uint8_t* msg, int len, uint8_t* status,
                                                          uint8_t* verifyLeft, uint8_t* unblockLeft);
+/** Reads the PIN2 status of a UIMGetPINStatus response.
+ *  Reads item 0x12 PIN2Status of a UIMGetPINStatus message (0x002B): status byte, verify attempts left, unblock
+ *  attempts left.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param status receives the PIN status: 0 not initialised, 1 enabled and not verified, 2 enabled and verified, 3
+ *         disabled, 4 blocked, 5 permanently blocked, 6 unblocked, 7 changed (required)
+ *  @param verifyLeft receives the number of verify attempts left (required)
+ *  @param unblockLeft receives the number of unblock attempts left (required)
+ *  @return the value length of item 0x12; ZOVQMI_ERR_ARG: msg or any of the three outputs is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x002B in msg; ZOVQMI_ERR_NO_TLV: no item 0x12; ZOVQMI_ERR_MALFORMED: an
+ *          item or a field read runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSUIMGetPINStatusRespGetPIN2Status(const uint8_t* msg, int len, uint8_t* status,
                                                          uint8_t* verifyLeft, uint8_t* unblockLeft);
+/** @} */
+/** @defgroup dms_get_user_lock_state GetUserLockState (0x0034)
+ *  @ingroup svc_dms
+ *  @brief Asks whether the device user lock is on.
+ *  @{
+ */
+/** Builds a GetUserLockState request (0x0034): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSGetUserLockStateReq(uint8_t* buf, int bufsize);
+/** Parses a GetUserLockState response (0x0034).
+ *  Item 0x01: one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param state receives the lock state: 0 disabled, 1 enabled (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or state is
+ *          null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0034 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIDMSGetUserLockStateResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* state);
+/** @} */
+/** @defgroup dms_set_user_lock_state SetUserLockState (0x0035)
+ *  @ingroup svc_dms
+ *  @brief Turns the device user lock on or off.
+ *  @{
+ */
+/** Builds a SetUserLockState request (0x0035) with its mandatory item 0x01.
+ *  Item 0x01 (length 5): the state byte, then the lock code as a little-endian u32.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param state the lock state to set: 0 disabled, 1 enabled
+ *  @param lockCode the current lock code
+ *  @return 15, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 15.
+ */
 ZOVQMI_API int zovQMIDMSSetUserLockStateReq(uint8_t* buf, int bufsize, uint8_t state, uint32_t lockCode);
+/** Parses a SetUserLockState response (0x0035): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0035 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIDMSSetUserLockStateResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup dms_set_user_lock_code SetUserLockCode (0x0036)
+ *  @ingroup svc_dms
+ *  @brief Changes the device user lock code.
+ *  @{
+ */
+/** Builds a SetUserLockCode request (0x0036) with its mandatory item 0x01.
+ *  Item 0x01 (length 8): the two codes as little-endian u32, old code first.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param oldCode the current lock code
+ *  @param newCode the new lock code
+ *  @return 18, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 18.
+ */
 ZOVQMI_API int zovQMIDMSSetUserLockCodeReq(uint8_t* buf, int bufsize, uint32_t oldCode, uint32_t newCode);
+/** Parses a SetUserLockCode response (0x0036): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0036 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIDMSSetUserLockCodeResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup dms_validate_service_programming_code ValidateServiceProgrammingCode (0x003B)
+ *  @ingroup svc_dms
+ *  @brief Checks a service programming code.
+ *  @{
+ */
+/** Builds a ValidateServiceProgrammingCode request (0x003B) with its mandatory item 0x01.
+ *  Item 0x01 (length 6): the 6 code bytes (message bytes 10 to 15).
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param code the 6 code bytes, usually ASCII digits, copied as they are (required)
+ *  @return 16, the message length; ZOVQMI_ERR_ARG when buf or code is null or bufsize is below 16.
+ */
 ZOVQMI_API int zovQMIDMSValidateServiceProgrammingCodeReq(uint8_t* buf, int bufsize, const uint8_t code[6]);
+/** Parses a ValidateServiceProgrammingCode response (0x003B): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x003B in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIDMSValidateServiceProgrammingCodeResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup dms_uim_get_iccid UIMGetICCID (0x003C)
+ *  @ingroup svc_dms
+ *  @brief Asks for the ICCID of the UIM.
+ *  @{
+ */
+/** Builds a UIMGetICCID request (0x003C): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSUIMGetICCIDReq(uint8_t* buf, int bufsize);
+/** Parses a UIMGetICCID response (0x003C): the ICCID from item 0x01.
+ *  The whole value of item 0x01 is the text, of any length, not terminated.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param length receives the length of the ICCID in bytes, the item's value length (required)
+ *  @param data receives the ICCID bytes, no terminator added; may be null to learn the length first. No capacity is
+ *         checked: provide room for *length bytes (at most 65535)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or length is
+ *          null; ZOVQMI_ERR_NO_MESSAGE: no message 0x003C in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIDMSUIMGetICCIDResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length, void* data);
+/** @} */
+/** @defgroup dms_uim_get_ck_status UIMGetCKStatus (0x0040)
+ *  @ingroup svc_dms
+ *  @brief Asks for the state of a personalisation facility (control key).
+ *  @{
+ */
+/** Builds a UIMGetCKStatus request (0x0040) with its mandatory item 0x01.
+ *  Item 0x01 (length 1): the facility byte (message byte 10).
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param facility the personalisation facility: 0 network, 1 network subset, 2 service provider, 3 corporate, 4 UIM
+ *  @return 11, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 11.
+ */
 ZOVQMI_API int zovQMIDMSUIMGetCKStatusReq(uint8_t* buf, int bufsize, uint8_t facility);
+/** Parses a UIMGetCKStatus response (0x0040): status and retries.
+ *  Item 0x01: facility status byte, verify attempts left, unblock attempts left.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param status receives the facility status: 0 deactivated, 1 activated, 2 blocked (required)
+ *  @param verifyLeft receives the number of verify attempts left (required)
+ *  @param unblockLeft receives the number of unblock attempts left (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or any of
+ *          the three outputs is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0040 in msg; ZOVQMI_ERR_NO_TLV: no result
+ *          item (result untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an
+ *          item or a field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIDMSUIMGetCKStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status,
                                            uint8_t* verifyLeft, uint8_t* unblockLeft);
+/** Reads whether the facility blocks operation, from a UIMGetCKStatus response.
+ *  Reads item 0x10 OperationBlockingFacility of a UIMGetCKStatus message (0x0040): one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param blocking receives 0 when the facility does not block operation, 1 when it does (required)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg or blocking is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0040 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSUIMGetCKStatusRespGetOperationBlockingFacility(const uint8_t* msg, int len,
                                                                        uint8_t* blocking);
+/** @} */
+/** @defgroup dms_uim_set_ck_protection UIMSetCKProtection (0x0041)
+ *  @ingroup svc_dms
+ *  @brief Deactivates a personalisation facility with its control key.
+ *  @{
+ */
+/** Builds a UIMSetCKProtection request (0x0041) with its mandatory item 0x01.
+ *  Item 0x01 (length 3 + keyLength): facility, state, key length byte, key bytes.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param facility the personalisation facility: 0 network, 1 network subset, 2 service provider, 3 corporate, 4 UIM
+ *  @param state the state to set: 0 deactivate
+ *  @param keyLength length of key in bytes; only its low 8 bits are used
+ *  @param key control key bytes, copied as they are (no terminator); may be null when keyLength is 0
+ *  @return 13 + keyLength, the message length; ZOVQMI_ERR_ARG when buf is null, when bufsize is below 13 + keyLength,
+ *          or when keyLength is non-zero and key is null.
+ */
 ZOVQMI_API int zovQMIDMSUIMSetCKProtectionReq(uint8_t* buf, int bufsize, uint8_t facility, uint8_t state,
                                               uint8_t keyLength, const uint8_t* key);
+/** Parses a UIMSetCKProtection response (0x0041): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0041 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIDMSUIMSetCKProtectionResp(const uint8_t* msg, int len, QmiResult* result);
+/** Reads the control key attempts left from a UIMSetCKProtection response.
+ *  Reads item 0x10 FacilityCKRetryStatus of a UIMSetCKProtection message (0x0041): one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param retriesLeft receives the number of attempts left (required)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg or retriesLeft is null; ZOVQMI_ERR_NO_MESSAGE: no
+ *          message 0x0041 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an item or a field read runs
+ *          past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSUIMSetCKProtectionRespGetFacilityCKRetryStatus(const uint8_t* msg, int len,
                                                                        uint8_t* retriesLeft);
-/* Deliberately returns 13 + keyLength although the message it writes is 12 + keyLength bytes. */
+/** @} */
+/** @defgroup dms_uim_unblock_ck UIMUnblockCK (0x0042)
+ *  @ingroup svc_dms
+ *  @brief Unblocks a blocked personalisation facility with its unblock key.
+ *  @{
+ */
+/** Builds a UIMUnblockCK request (0x0042) with its mandatory item 0x01.
+ *  Item 0x01 (length 2 + keyLength): facility, key length byte, key bytes; the message written is 12 + keyLength
+ *  bytes. Send 12 + keyLength bytes, not the value returned.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param facility the personalisation facility: 0 network, 1 network subset, 2 service provider, 3 corporate, 4 UIM
+ *  @param keyLength length of key in bytes; only its low 8 bits are used
+ *  @param key unblock key bytes, copied as they are (no terminator); may be null when keyLength is 0
+ *  @return 13 + keyLength; ZOVQMI_ERR_ARG when buf is null, when bufsize is below 12 + keyLength, or when keyLength
+ *          is non-zero and key is null.
+ *  @note Deliberate: returns 13 + keyLength, one more than the 12 + keyLength bytes it writes; a caller that sends
+ *        the returned length sends one byte past the message.
+ */
 ZOVQMI_API int zovQMIDMSUIMUnblockCKReq(uint8_t* buf, int bufsize, uint8_t facility, uint8_t keyLength,
                                         const uint8_t* key);
+/** Parses a UIMUnblockCK response (0x0042): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0042 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIDMSUIMUnblockCKResp(const uint8_t* msg, int len, QmiResult* result);
+/** Reads the unblock attempts left from a UIMUnblockCK response.
+ *  Reads item 0x10 FacilityCKRetryStatus of a UIMUnblockCK message (0x0042): one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param retriesLeft receives the number of attempts left (required)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg or retriesLeft is null; ZOVQMI_ERR_NO_MESSAGE: no
+ *          message 0x0042 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an item or a field read runs
+ *          past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIDMSUIMUnblockCKRespGetFacilityCKRetryStatus(const uint8_t* msg, int len, uint8_t* retriesLeft);
+/** @} */
+/** @defgroup dms_uim_get_imsi UIMGetIMSI (0x0043)
+ *  @ingroup svc_dms
+ *  @brief Asks for the IMSI of the UIM.
+ *  @{
+ */
+/** Builds a UIMGetIMSI request (0x0043): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSUIMGetIMSIReq(uint8_t* buf, int bufsize);
+/** Parses a UIMGetIMSI response (0x0043): the IMSI from item 0x01.
+ *  The whole value of item 0x01 is the text, of any length, not terminated.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param length receives the length of the IMSI in bytes, the item's value length (required)
+ *  @param data receives the IMSI bytes, no terminator added; may be null to learn the length first. No capacity is
+ *         checked: provide room for *length bytes (at most 65535)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or length is
+ *          null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0043 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIDMSUIMGetIMSIResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* length, void* data);
+/** @} */
+/** @defgroup dms_uim_get_state UIMGetState (0x0044)
+ *  @ingroup svc_dms
+ *  @brief Asks for the state of the UIM.
+ *  @{
+ */
+/** Builds a UIMGetState request (0x0044): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIDMSUIMGetStateReq(uint8_t* buf, int bufsize);
+/** Parses a UIMGetState response (0x0044).
+ *  Item 0x01: one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param state receives the UIM state: 0x00 initialised, 0x01 initialisation failed, 0x02 not present, 0xFF state
+ *         unavailable (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or state is
+ *          null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0044 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIDMSUIMGetStateResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* state);
 
+/** @} */
 /* ------------------------------------------------------------ end DMS -- */
 
 
 /* ---------------------------------------------------------------- NAS -- */
+/** @defgroup svc_nas NAS: network access service (service 3)
+ *  @brief Registration, serving system, signal strength, network scans, preferred and forbidden networks, system
+ *  selection.
+ *  @note Deliberate: parsers read fixed fields at their offsets and take counts and lengths from the message as they
+ *  stand, without comparing them with the item's length: a short item is read on into the bytes that follow it. Only
+ *  a read past the end of the received message is refused, with ZOVQMI_ERR_MALFORMED, and the outputs of that
+ *  item are then left untouched.
+ */
 #pragma pack(push, 1)
 
-/* NAS: the serving system item 0x01 of GetServingSystem (response and
- * indication): four state bytes, then a list of listCount bytes copied into
- * the caller's buffer `list` when it is non-null. 5 + pointer bytes. */
+/** The serving system, item 0x01 of GetServingSystem responses and ServingSystem indications.
+ *  5 bytes plus a native pointer: 9 bytes on 32-bit hosts. Packed; it has no multi-byte integer field. The
+ *  parsers fill `state` and `listCount`; `list` is set by the caller before the call and never written.
+ *  @ingroup nas_get_serving_system
+ */
 typedef struct NASServingSystem {
-    uint8_t state[4];
-    uint8_t listCount;
-    uint8_t* list;
+    uint8_t state[4];   /**< [0] registration state: 0 not registered, 1 registered, 2 searching, 3 denied,
+                             4 unknown; [1] circuit switched attach state and [2] packet switched attach state:
+                             0 unknown, 1 attached, 2 detached; [3] network type: 0 unknown, 1 3GPP2, 2 3GPP */
+    uint8_t listCount;  /**< number of radio interfaces in use (bytes that follow in the item) */
+    uint8_t* list;      /**< caller buffer for the listCount radio interface bytes (0x01 cdma2000 1x,
+                             0x02 cdma2000 HRPD, 0x04 GSM, 0x05 UMTS, 0x08 LTE), up to 255; null copies nothing */
 } NASServingSystem;
 
-/* NAS: one network, the element of every network list (scan results, current
- * and home network, preferred and forbidden lists).  Each parser writes only
- * its own fields and leaves the others as the caller set them:
- *   firstCode, secondCode   all of them
- *   thirdCode               preferred lists only
- *   status                  scan only
- *   descriptionLength       scan, current network, home network
- * `description` is never written: when non-null it receives the description
- * bytes.  Arrays are walked with this record's size as stride.
- * 8 + pointer bytes. */
+/** One network: the element of every network list (scan results, current and home network, preferred and
+ *  forbidden lists). 8 bytes plus a native pointer: 12 bytes on 32-bit hosts. Packed; the multi-byte integer
+ *  fields hold little-endian bytes on every host. Arrays are walked with this record's size as stride. Each
+ *  function reads or writes only its own fields and leaves the others as the caller set them:
+ *
+ *  | field | written by |
+ *  |---|---|
+ *  | firstCode, secondCode | all the network parsers; read by both list builders |
+ *  | thirdCode | the preferred-list parsers; read by the preferred-list builder |
+ *  | status | the network scan |
+ *  | descriptionLength | the scan, the current network and the home network |
+ *
+ *  @ingroup svc_nas
+ */
 typedef struct NASNetworkRecord {
-    uint16_t firstCode;
-    uint16_t secondCode;
-    uint16_t thirdCode;
-    uint8_t status;
-    uint8_t descriptionLength;
-    uint8_t* description;
+    uint16_t firstCode;         /**< mobile country code, MCC (little-endian bytes) */
+    uint16_t secondCode;        /**< mobile network code, MNC (little-endian bytes) */
+    uint16_t thirdCode;         /**< preferred lists: the access technology bits as the modem defines them
+                                     (little-endian bytes) */
+    uint8_t status;             /**< network scan: in-use, roaming, forbidden and preferred bits, two each (see
+                                     zovQMINASPerformNetworkScanRespGet3GPPNetworkInformation()) */
+    uint8_t descriptionLength;  /**< length of the network name that follows in the item */
+    uint8_t* description;       /**< caller buffer for the descriptionLength name bytes (not terminated), up to
+                                     255; null copies nothing; never written itself */
 } NASNetworkRecord;
 
-/* NAS: one RF band entry, laid out as on the wire (5 bytes). */
+/** One RF band entry, laid out as on the wire and copied as it is. 5 bytes, packed; the multi-byte integer
+ *  fields hold little-endian bytes on every host.
+ *  @ingroup svc_nas
+ */
 typedef struct NASRFBandRecord {
-    uint8_t first;
-    uint16_t second;
-    uint16_t third;
+    uint8_t first;    /**< radio interface: 0x01 cdma2000 1x, 0x02 cdma2000 HRPD, 0x04 GSM, 0x05 UMTS, 0x08 LTE */
+    uint16_t second;  /**< active band class (little-endian bytes) */
+    uint16_t third;   /**< active channel (little-endian bytes) */
 } NASRFBandRecord;
 
-/* NAS: the manual network registration item of InitiateNetworkRegister (5 bytes). */
+/** The network of a manual registration, item 0x10 of InitiateNetworkRegister, copied to the wire as it is.
+ *  5 bytes, packed; the multi-byte integer fields hold little-endian bytes on every host.
+ *  @ingroup nas_initiate_network_register
+ */
 typedef struct NASManualNetworkRegister {
-    uint16_t firstCode;
-    uint16_t secondCode;
-    uint8_t third;
+    uint16_t firstCode;   /**< mobile country code, MCC (little-endian bytes) */
+    uint16_t secondCode;  /**< mobile network code, MNC (little-endian bytes) */
+    uint8_t third;        /**< radio access technology: 0x04 GSM, 0x05 UMTS, 0x08 LTE */
 } NASManualNetworkRegister;
 
 #pragma pack(pop)
 
-/* Reset 0x0000, Abort 0x0001 */
+/** @defgroup nas_reset Reset (0x0000)
+ *  @ingroup svc_nas
+ *  @brief Resets the NAS state of the client.
+ *  @{
+ */
+/** Builds a Reset request (0x0000): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASResetReq(uint8_t* buf, int bufsize);
+/** Parses a Reset response (0x0000): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0000 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMINASResetResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup nas_abort Abort (0x0001)
+ *  @ingroup svc_nas
+ *  @brief Aborts a NAS request still in progress, named by its transaction id.
+ *  @{
+ */
+/** Builds an Abort request (0x0001) with its mandatory item 0x01.
+ *  Item 0x01 (length 2): the transaction id, little-endian.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param transactionId the transaction id of the request to abort
+ *  @return 12, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 12.
+ */
 ZOVQMI_API int zovQMINASAbortReq(uint8_t* buf, int bufsize, uint16_t transactionId);
+/** Parses a Abort response (0x0001): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0001 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMINASAbortResp(const uint8_t* msg, int len, QmiResult* result);
 
-/* SetEventReport 0x0002 and the EventReport indication */
+/** @} */
+/** @defgroup nas_set_event_report SetEventReport (0x0002)
+ *  @ingroup svc_nas
+ *  @brief Chooses which radio changes the modem reports with the EventReport indication.
+ *  @{
+ */
+/** Builds a SetEventReport request (0x0002): the 7-byte header, no item.
+ *  Append the reporting items with the zovQMINASSetEventReportReqAdd... functions.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASSetEventReportReq(uint8_t* buf, int bufsize);
+/** Appends item 0x10 SignalStrengthIndicator to a SetEventReport request (0x0002).
+ *  Adds 5 + count bytes: type, length 2 + count, report byte, count byte, count threshold bytes.
+ *  @param buf the request, begun by zovQMINASSetEventReportReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param report reporting switch: 0 do not report, 1 report
+ *  @param count number of thresholds (0 to 255)
+ *  @param thresholds count thresholds, each a signed dBm value in one byte; may be null when count is 0
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null, or count is non-zero and thresholds is null;
+ *          ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize (nothing written).
+ */
 ZOVQMI_API int zovQMINASSetEventReportReqAddSignalStrengthIndicator(uint8_t* buf, int bufsize, uint8_t report,
                                                                     uint8_t count, const uint8_t* thresholds);
+/** Appends item 0x11 RFBandInformation to a SetEventReport request (0x0002).
+ *  Adds 4 bytes: type, length 1, the report byte.
+ *  @param buf the request, begun by zovQMINASSetEventReportReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param report reporting switch: 0 do not report, 1 report
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASSetEventReportReqAddRFBandInformation(uint8_t* buf, int bufsize, uint8_t report);
+/** Appends item 0x12 RegistrationRejectReasons to a SetEventReport request (0x0002).
+ *  Adds 4 bytes: type, length 1, the report byte.
+ *  @param buf the request, begun by zovQMINASSetEventReportReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param report reporting switch: 0 do not report, 1 report
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASSetEventReportReqAddRegistrationRejectReasons(uint8_t* buf, int bufsize, uint8_t report);
+/** Appends item 0x13 RSSIIndicator to a SetEventReport request (0x0002).
+ *  Adds 5 bytes: type, length 2, report byte, delta byte.
+ *  @param buf the request, begun by zovQMINASSetEventReportReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param report reporting switch: 0 do not report, 1 report
+ *  @param delta the change of the reported value that triggers a new report
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASSetEventReportReqAddRSSIIndicator(uint8_t* buf, int bufsize, uint8_t report, uint8_t delta);
+/** Appends item 0x14 ECIOIndicator to a SetEventReport request (0x0002).
+ *  Adds 5 bytes: type, length 2, report byte, delta byte.
+ *  @param buf the request, begun by zovQMINASSetEventReportReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param report reporting switch: 0 do not report, 1 report
+ *  @param delta the change of the reported value that triggers a new report
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASSetEventReportReqAddECIOIndicator(uint8_t* buf, int bufsize, uint8_t report, uint8_t delta);
+/** Appends item 0x15 IOIndicator to a SetEventReport request (0x0002).
+ *  Adds 5 bytes: type, length 2, report byte, delta byte.
+ *  @param buf the request, begun by zovQMINASSetEventReportReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param report reporting switch: 0 do not report, 1 report
+ *  @param delta the change of the reported value that triggers a new report
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASSetEventReportReqAddIOIndicator(uint8_t* buf, int bufsize, uint8_t report, uint8_t delta);
+/** Appends item 0x16 SINRIndicator to a SetEventReport request (0x0002).
+ *  Adds 5 bytes: type, length 2, report byte, delta byte.
+ *  @param buf the request, begun by zovQMINASSetEventReportReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param report reporting switch: 0 do not report, 1 report
+ *  @param delta the change of the reported value that triggers a new report
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASSetEventReportReqAddSINRIndicator(uint8_t* buf, int bufsize, uint8_t report, uint8_t delta);
+/** Appends item 0x17 ErrorRateIndicator to a SetEventReport request (0x0002).
+ *  Adds 4 bytes: type, length 1, the report byte.
+ *  @param buf the request, begun by zovQMINASSetEventReportReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param report reporting switch: 0 do not report, 1 report
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASSetEventReportReqAddErrorRateIndicator(uint8_t* buf, int bufsize, uint8_t report);
+/** Parses a SetEventReport response (0x0002): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0002 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMINASSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup nas_event_report EventReport indication (0x0002)
+ *  @ingroup svc_nas
+ *  @brief The radio changes a client asked for with SetEventReport; it carries the id of that request.
+ *  @{
+ */
+/** Confirms that msg holds an EventReport indication (0x0002).
+ *  Only the message id is checked; read the items with the zovQMINASEventReportINDGet... functions.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @return the TLV-area length; ZOVQMI_ERR_ARG: msg is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0002 in msg. No item
+ *          is read, so it never gives ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMINASEventReportIND(const uint8_t* msg, int len);
+/** Reads the signal strength of an EventReport indication.
+ *  Reads item 0x10 SignalStrength of a EventReport message (0x0002): strength byte, radio interface byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param strength receives the signal strength in dBm, a signed value in one byte (required)
+ *  @param radioInterface receives the radio interface: 0x00 none, 0x01 cdma2000 1x, 0x02 cdma2000 HRPD, 0x03 AMPS,
+ *         0x04 GSM, 0x05 UMTS, 0x08 LTE (required)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg, strength or radioInterface is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0002 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an
+ *          item or a field read runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASEventReportINDGetSignalStrength(const uint8_t* msg, int len, uint8_t* strength,
                                                         uint8_t* radioInterface);
+/** Reads the RF band list of an EventReport indication.
+ *  Reads item 0x11 RFBandInformationList of a EventReport message (0x0002): a count byte, then count 5-byte entries
+ *  {radio interface, u16 band class, u16 channel}.
+ *  The count is not compared with the item length.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param count receives the number of entries (required)
+ *  @param list receives count NASRFBandRecord entries copied as they are, up to 255; may be null to learn the count
+ *  @return the value length of item 0x11; ZOVQMI_ERR_ARG: msg or count is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0002 in msg; ZOVQMI_ERR_NO_TLV: no item 0x11; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASEventReportINDGetRFBandInformationList(const uint8_t* msg, int len, uint8_t* count,
                                                                NASRFBandRecord* list);
+/** Reads why the network refused a registration, from an EventReport indication.
+ *  Reads item 0x12 RegistrationRejectReason of a EventReport message (0x0002): domain byte, u16 reject cause.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param domain receives the service domain: 1 circuit switched, 2 packet switched (required)
+ *  @param cause receives the reject cause the network sent, native value (required)
+ *  @return the value length of item 0x12; ZOVQMI_ERR_ARG: msg, domain or cause is null; ZOVQMI_ERR_NO_MESSAGE: no
+ *          message 0x0002 in msg; ZOVQMI_ERR_NO_TLV: no item 0x12; ZOVQMI_ERR_MALFORMED: an item or a field read runs
+ *          past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASEventReportINDGetRegistrationRejectReason(const uint8_t* msg, int len, uint8_t* domain,
                                                                   uint16_t* cause);
+/** Reads the RSSI of an EventReport indication.
+ *  Reads item 0x13 RSSI of a EventReport message (0x0002): RSSI byte, radio interface byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param rssi receives the RSSI as a positive number: 75 means -75 dBm (required)
+ *  @param radioInterface receives the radio interface: 0x00 none, 0x01 cdma2000 1x, 0x02 cdma2000 HRPD, 0x03 AMPS,
+ *         0x04 GSM, 0x05 UMTS, 0x08 LTE (required)
+ *  @return the value length of item 0x13; ZOVQMI_ERR_ARG: msg, rssi or radioInterface is null; ZOVQMI_ERR_NO_MESSAGE:
+ *          no message 0x0002 in msg; ZOVQMI_ERR_NO_TLV: no item 0x13; ZOVQMI_ERR_MALFORMED: an item or a field read
+ *          runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASEventReportINDGetRSSI(const uint8_t* msg, int len, uint8_t* rssi, uint8_t* radioInterface);
+/** Reads the Ec/Io of an EventReport indication.
+ *  Reads item 0x14 ECIO of a EventReport message (0x0002): Ec/Io byte, radio interface byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param ecio receives the Ec/Io in units of -0.5 dB: 10 means -5 dB (required)
+ *  @param radioInterface receives the radio interface: 0x00 none, 0x01 cdma2000 1x, 0x02 cdma2000 HRPD, 0x03 AMPS,
+ *         0x04 GSM, 0x05 UMTS, 0x08 LTE (required)
+ *  @return the value length of item 0x14; ZOVQMI_ERR_ARG: msg, ecio or radioInterface is null; ZOVQMI_ERR_NO_MESSAGE:
+ *          no message 0x0002 in msg; ZOVQMI_ERR_NO_TLV: no item 0x14; ZOVQMI_ERR_MALFORMED: an item or a field read
+ *          runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASEventReportINDGetECIO(const uint8_t* msg, int len, uint8_t* ecio, uint8_t* radioInterface);
+/** Reads the received power Io of an EventReport indication.
+ *  Reads item 0x15 IO of a EventReport message (0x0002): a u32.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param io receives Io in dBm, a signed 32-bit value stored as u32, native (required)
+ *  @return the value length of item 0x15; ZOVQMI_ERR_ARG: msg or io is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0002
+ *          in msg; ZOVQMI_ERR_NO_TLV: no item 0x15; ZOVQMI_ERR_MALFORMED: an item or a field read runs past the end
+ *          of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASEventReportINDGetIO(const uint8_t* msg, int len, uint32_t* io);
+/** Reads the SINR level of an EventReport indication.
+ *  Reads item 0x16 SINR of a EventReport message (0x0002): one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param sinr receives the SINR level, 0 (-9 dB) to 8 (+9 dB) (required)
+ *  @return the value length of item 0x16; ZOVQMI_ERR_ARG: msg or sinr is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0002 in msg; ZOVQMI_ERR_NO_TLV: no item 0x16; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASEventReportINDGetSINR(const uint8_t* msg, int len, uint8_t* sinr);
+/** Reads the error rate of an EventReport indication.
+ *  Reads item 0x17 ErrorRate of a EventReport message (0x0002): u16 error rate, radio interface byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param errorRate receives the frame or block error rate as the modem reports it, native value (required)
+ *  @param radioInterface receives the radio interface: 0x00 none, 0x01 cdma2000 1x, 0x02 cdma2000 HRPD, 0x03 AMPS,
+ *         0x04 GSM, 0x05 UMTS, 0x08 LTE (required)
+ *  @return the value length of item 0x17; ZOVQMI_ERR_ARG: msg, errorRate or radioInterface is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0002 in msg; ZOVQMI_ERR_NO_TLV: no item 0x17; ZOVQMI_ERR_MALFORMED: an
+ *          item or a field read runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASEventReportINDGetErrorRate(const uint8_t* msg, int len, uint16_t* errorRate,
                                                    uint8_t* radioInterface);
 
-/* IndicationRegister 0x0003 */
+/** @} */
+/** @defgroup nas_indication_register IndicationRegister (0x0003)
+ *  @ingroup svc_nas
+ *  @brief Registers for the serving system, system selection and DDTM indications.
+ *  @{
+ */
+/** Builds an IndicationRegister request (0x0003): the 7-byte header, no item.
+ *  Append the registration items with the zovQMINASIndicationRegisterReqAdd... functions (item 0x11 is not offered).
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASIndicationRegisterReq(uint8_t* buf, int bufsize);
+/** Appends item 0x10 SystemSelectionPreference to a IndicationRegister request (0x0003).
+ *  Adds 4 bytes: type, length 1, the report byte.
+ *  @param buf the request, begun by zovQMINASIndicationRegisterReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param report registration switch for the SystemSelectionPreference indication (0x0034): 0 off, 1 on
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASIndicationRegisterReqAddSystemSelectionPreference(uint8_t* buf, int bufsize, uint8_t report);
+/** Appends item 0x12 DDTMEvents to a IndicationRegister request (0x0003).
+ *  Adds 4 bytes: type, length 1, the report byte.
+ *  @param buf the request, begun by zovQMINASIndicationRegisterReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param report registration switch for the DDTM indication (0x0038): 0 off, 1 on
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASIndicationRegisterReqAddDDTMEvents(uint8_t* buf, int bufsize, uint8_t report);
+/** Appends item 0x13 ServingSystemEvents to a IndicationRegister request (0x0003).
+ *  Adds 4 bytes: type, length 1, the report byte.
+ *  @param buf the request, begun by zovQMINASIndicationRegisterReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param report registration switch for the ServingSystem indication (0x0024): 0 off, 1 on
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASIndicationRegisterReqAddServingSystemEvents(uint8_t* buf, int bufsize, uint8_t report);
+/** Parses a IndicationRegister response (0x0003): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0003 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMINASIndicationRegisterResp(const uint8_t* msg, int len, QmiResult* result);
 
-/* GetSignalStrength 0x0020 */
+/** @} */
+/** @defgroup nas_get_signal_strength GetSignalStrength (0x0020)
+ *  @ingroup svc_nas
+ *  @brief Asks for the signal strength and, on request, RSSI, Ec/Io, Io, SINR and error rates.
+ *  @{
+ */
+/** Builds a GetSignalStrength request (0x0020): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASGetSignalStrengthReq(uint8_t* buf, int bufsize);
+/** Appends item 0x10 RequestMask to a GetSignalStrength request (0x0020).
+ *  Adds 5 bytes: type, length 2, the mask as a little-endian u16.
+ *  @param buf the request, begun by zovQMINASGetSignalStrengthReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param mask which extra items to return: bit 0 RSSI (0x11), bit 1 Ec/Io (0x12), bit 2 Io (0x13), bit 3 SINR
+ *         (0x14), bit 4 error rate (0x15)
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetSignalStrengthReqAddRequestMask(uint8_t* buf, int bufsize, uint16_t mask);
+/** Parses a GetSignalStrength response (0x0020): the current signal strength.
+ *  Item 0x01: strength byte, radio interface byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param strength receives the signal strength in dBm, a signed value in one byte (required)
+ *  @param radioInterface receives the radio interface: 0x00 none, 0x01 cdma2000 1x, 0x02 cdma2000 HRPD, 0x03 AMPS,
+ *         0x04 GSM, 0x05 UMTS, 0x08 LTE (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result, strength or
+ *          radioInterface is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0020 in msg; ZOVQMI_ERR_NO_TLV: no result item
+ *          (result untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item
+ *          or a field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMINASGetSignalStrengthResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* strength,
                                               uint8_t* radioInterface);
+/** Reads the signal strength list of a GetSignalStrength response.
+ *  Reads item 0x10 SignalStrengthList of a GetSignalStrength message (0x0020): a u16 count, then count pairs {value
+ *  byte, radio interface byte}.
+ *  The count is not compared with the item length; with both arrays null only the count is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param count receives the number of pairs, native value (required)
+ *  @param first receives the count values, signed dBm values; may be null
+ *  @param second receives the count radio interfaces (0x00 none, 0x01 cdma2000 1x, 0x02 cdma2000 HRPD, 0x03 AMPS,
+ *         0x04 GSM, 0x05 UMTS, 0x08 LTE); may be null
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg or count is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0020 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetSignalStrengthRespGetSignalStrengthList(const uint8_t* msg, int len, uint16_t* count,
                                                                    uint8_t* first, uint8_t* second);
+/** Reads the RSSI list of a GetSignalStrength response.
+ *  Reads item 0x11 RSSIList of a GetSignalStrength message (0x0020): a u16 count, then count pairs {value byte, radio
+ *  interface byte}.
+ *  The count is not compared with the item length; with both arrays null only the count is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param count receives the number of pairs, native value (required)
+ *  @param first receives the count values, positive RSSI numbers: 75 means -75 dBm; may be null
+ *  @param second receives the count radio interfaces (0x00 none, 0x01 cdma2000 1x, 0x02 cdma2000 HRPD, 0x03 AMPS,
+ *         0x04 GSM, 0x05 UMTS, 0x08 LTE); may be null
+ *  @return the value length of item 0x11; ZOVQMI_ERR_ARG: msg or count is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0020 in msg; ZOVQMI_ERR_NO_TLV: no item 0x11; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetSignalStrengthRespGetRSSIList(const uint8_t* msg, int len, uint16_t* count, uint8_t* first,
                                                          uint8_t* second);
+/** Reads the Ec/Io list of a GetSignalStrength response.
+ *  Reads item 0x12 ECIOList of a GetSignalStrength message (0x0020): a u16 count, then count pairs {value byte, radio
+ *  interface byte}.
+ *  The count is not compared with the item length; with both arrays null only the count is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param count receives the number of pairs, native value (required)
+ *  @param first receives the count values, in units of -0.5 dB; may be null
+ *  @param second receives the count radio interfaces (0x00 none, 0x01 cdma2000 1x, 0x02 cdma2000 HRPD, 0x03 AMPS,
+ *         0x04 GSM, 0x05 UMTS, 0x08 LTE); may be null
+ *  @return the value length of item 0x12; ZOVQMI_ERR_ARG: msg or count is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0020 in msg; ZOVQMI_ERR_NO_TLV: no item 0x12; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetSignalStrengthRespGetECIOList(const uint8_t* msg, int len, uint16_t* count, uint8_t* first,
                                                          uint8_t* second);
+/** Reads the received power Io of a GetSignalStrength response.
+ *  Reads item 0x13 IO of a GetSignalStrength message (0x0020): a u32.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param io receives Io in dBm, a signed 32-bit value stored as u32, native (required)
+ *  @return the value length of item 0x13; ZOVQMI_ERR_ARG: msg or io is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0020
+ *          in msg; ZOVQMI_ERR_NO_TLV: no item 0x13; ZOVQMI_ERR_MALFORMED: an item or a field read runs past the end
+ *          of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetSignalStrengthRespGetIO(const uint8_t* msg, int len, uint32_t* io);
+/** Reads the SINR level of a GetSignalStrength response.
+ *  Reads item 0x14 SINR of a GetSignalStrength message (0x0020): one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param sinr receives the SINR level, 0 (-9 dB) to 8 (+9 dB) (required)
+ *  @return the value length of item 0x14; ZOVQMI_ERR_ARG: msg or sinr is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0020 in msg; ZOVQMI_ERR_NO_TLV: no item 0x14; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetSignalStrengthRespGetSINR(const uint8_t* msg, int len, uint8_t* sinr);
+/** Reads the error rate list of a GetSignalStrength response.
+ *  Reads item 0x15 ErrorRateList of a GetSignalStrength message (0x0020): a u16 count, then count 3-byte entries {u16
+ *  error rate, radio interface byte}.
+ *  The count is not compared with the item length.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param count receives the number of entries, native value (required)
+ *  @param errorRates receives the count error rates, native values; may be null
+ *  @param radioInterfaces receives the count radio interfaces (0x00 none, 0x01 cdma2000 1x, 0x02 cdma2000 HRPD, 0x03
+ *         AMPS, 0x04 GSM, 0x05 UMTS, 0x08 LTE); may be null
+ *  @return the value length of item 0x15; ZOVQMI_ERR_ARG: msg or count is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0020 in msg; ZOVQMI_ERR_NO_TLV: no item 0x15; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetSignalStrengthRespGetErrorRateList(const uint8_t* msg, int len, uint16_t* count,
                                                               uint16_t* errorRates, uint8_t* radioInterfaces);
 
-/* PerformNetworkScan 0x0021 */
+/** @} */
+/** @defgroup nas_perform_network_scan PerformNetworkScan (0x0021)
+ *  @ingroup svc_nas
+ *  @brief Scans for the 3GPP networks in reach.
+ *  @{
+ */
+/** Builds a PerformNetworkScan request (0x0021): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASPerformNetworkScanReq(uint8_t* buf, int bufsize);
+/** Parses a PerformNetworkScan response (0x0021): only the result item 0x02 is read.
+ *  The networks found are in an optional item: read it with
+ *  zovQMINASPerformNetworkScanRespGet3GPPNetworkInformation().
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0021 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMINASPerformNetworkScanResp(const uint8_t* msg, int len, QmiResult* result);
+/** Reads the networks found by a PerformNetworkScan response.
+ *  Reads item 0x10 3GPPNetworkInformation of a PerformNetworkScan message (0x0021): a u16 count, then per network
+ *  {u16 MCC, u16 MNC, status byte, description length n, n description bytes}.
+ *  Status bits, two per property: bits 0-1 in use (1 current serving, 2 available), bits 2-3 roaming (1 home, 2
+ *  roaming), bits 4-5 forbidden (1 forbidden, 2 not forbidden), bits 6-7 preferred (1 preferred, 2 not preferred).
+ *  The wire elements vary in length, the records do not; the count is not compared with the item length.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param count receives the number of networks, native value (required)
+ *  @param list array of count NASNetworkRecord; fills firstCode (MCC), secondCode (MNC), status and descriptionLength
+ *         of each, and copies the description (network name, not terminated) where the caller set a description
+ *         pointer; thirdCode is left alone. May be null to learn the count
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg or count is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0021 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASPerformNetworkScanRespGet3GPPNetworkInformation(const uint8_t* msg, int len, uint16_t* count,
                                                                         NASNetworkRecord* list);
 
-/* InitiateNetworkRegister 0x0022 */
+/** @} */
+/** @defgroup nas_initiate_network_register InitiateNetworkRegister (0x0022)
+ *  @ingroup svc_nas
+ *  @brief Registers with a network, automatically or with one named by the caller.
+ *  @{
+ */
+/** Builds an InitiateNetworkRegister request (0x0022) with its mandatory item 0x01.
+ *  Item 0x01 (length 1): the action byte (message byte 10).
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param action the registration action: 1 automatic, 2 manual (add the network with
+ *         zovQMINASInitiateNetworkRegisterReqAddManualNetworkRegisterInformation())
+ *  @return 11, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 11.
+ */
 ZOVQMI_API int zovQMINASInitiateNetworkRegisterReq(uint8_t* buf, int bufsize, uint8_t action);
+/** Appends item 0x10 ManualNetworkRegisterInformation to a InitiateNetworkRegister request (0x0022).
+ *  Adds 8 bytes: type, length 5, the 5 bytes of the record as they are (u16 MCC, u16 MNC, radio access technology).
+ *  @param buf the request, begun by zovQMINASInitiateNetworkRegisterReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param info the network to register with, its codes held as little-endian bytes (required)
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null or info is null; ZOVQMI_ERR_NO_ROOM: the item does not
+ *          fit in bufsize (nothing written).
+ */
 ZOVQMI_API int zovQMINASInitiateNetworkRegisterReqAddManualNetworkRegisterInformation(
     uint8_t* buf, int bufsize, const NASManualNetworkRegister* info);
+/** Parses a InitiateNetworkRegister response (0x0022): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0022 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMINASInitiateNetworkRegisterResp(const uint8_t* msg, int len, QmiResult* result);
 
-/* InitiateAttach 0x0023 */
+/** @} */
+/** @defgroup nas_initiate_attach InitiateAttach (0x0023)
+ *  @ingroup svc_nas
+ *  @brief Attaches to or detaches from the packet switched domain.
+ *  @{
+ */
+/** Builds a InitiateAttach request (0x0023): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASInitiateAttachReq(uint8_t* buf, int bufsize);
+/** Appends item 0x10 PSAttachAction to a InitiateAttach request (0x0023).
+ *  Adds 4 bytes: type, length 1, the action byte.
+ *  @param buf the request, begun by zovQMINASInitiateAttachReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param action the packet switched action: 1 attach, 2 detach
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASInitiateAttachReqAddPSAttachAction(uint8_t* buf, int bufsize, uint8_t action);
+/** Parses a InitiateAttach response (0x0023): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0023 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMINASInitiateAttachResp(const uint8_t* msg, int len, QmiResult* result);
 
-/* GetServingSystem 0x0024 and the ServingSystem indication */
+/** @} */
+/** @defgroup nas_get_serving_system GetServingSystem (0x0024)
+ *  @ingroup svc_nas
+ *  @brief Asks for the registration state and the network in use; the ServingSystem indication carries the same id
+ *  and item 0x01.
+ *  @{
+ */
+/** Builds a GetServingSystem request (0x0024): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASGetServingSystemReq(uint8_t* buf, int bufsize);
+/** Parses a GetServingSystem response (0x0024) into a NASServingSystem record.
+ *  Item 0x01: four state bytes, a count byte, count radio interface bytes; see NASServingSystem. The list is copied
+ *  only when servingSystem->list is non-null; the count is not compared with the item length.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param servingSystem receives the serving system (required); set its list pointer beforehand to a buffer of up to
+ *         255 bytes, or to null to skip the list
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or
+ *          servingSystem is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0024 in msg; ZOVQMI_ERR_NO_TLV: no result item
+ *          (result untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item
+ *          or a field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMINASGetServingSystemResp(const uint8_t* msg, int len, QmiResult* result,
                                              NASServingSystem* servingSystem);
+/** Reads the roaming indicator of a GetServingSystem response.
+ *  Reads item 0x10 RoamingIndicatorValue of a GetServingSystem message (0x0024): one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param value receives the roaming indicator: 0 roaming, 1 home (not roaming), other values as the network defines
+ *         them (required)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg or value is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0024 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetServingSystemRespGetRoamingIndicatorValue(const uint8_t* msg, int len, uint8_t* value);
+/** Reads the data services of the serving system from a GetServingSystem response.
+ *  Reads item 0x11 DataServiceCapabilityList of a GetServingSystem message (0x0024): a count byte, then count
+ *  capability bytes.
+ *  The count is not compared with the item length.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param count receives the number of capabilities (required)
+ *  @param list receives the count capability bytes, up to 255: 1 GPRS, 2 EDGE, 3 HSDPA, 4 HSUPA, 5 WCDMA, 6 CDMA 1x,
+ *         7 EV-DO rev. 0, 8 EV-DO rev. A, 9 GSM, 10 EV-DO rev. B, 11 LTE; may be null
+ *  @return the value length of item 0x11; ZOVQMI_ERR_ARG: msg or count is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0024 in msg; ZOVQMI_ERR_NO_TLV: no item 0x11; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetServingSystemRespGetDataServiceCapabilityList(const uint8_t* msg, int len, uint8_t* count,
                                                                          uint8_t* list);
+/** Reads the network in use from a GetServingSystem response.
+ *  Reads item 0x12 CurrentPLMN of a GetServingSystem message (0x0024): u16 MCC, u16 MNC, description length n, n
+ *  description bytes.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param network receives firstCode (MCC), secondCode (MNC) and descriptionLength, and the network name (not
+ *         terminated) through its description pointer when the caller set one; thirdCode and status are left alone
+ *         (required)
+ *  @return the value length of item 0x12; ZOVQMI_ERR_ARG: msg or network is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0024 in msg; ZOVQMI_ERR_NO_TLV: no item 0x12; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetServingSystemRespGetCurrentPLMN(const uint8_t* msg, int len, NASNetworkRecord* network);
+/** Reads the CDMA system and network ids from a GetServingSystem response.
+ *  Reads item 0x13 CDMASystemID of a GetServingSystem message (0x0024): u16 SID, u16 NID.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param systemId receives the system id (SID), native value (required)
+ *  @param networkId receives the network id (NID), native value (required)
+ *  @return the value length of item 0x13; ZOVQMI_ERR_ARG: msg, systemId or networkId is null; ZOVQMI_ERR_NO_MESSAGE:
+ *          no message 0x0024 in msg; ZOVQMI_ERR_NO_TLV: no item 0x13; ZOVQMI_ERR_MALFORMED: an item or a field read
+ *          runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetServingSystemRespGetCDMASystemID(const uint8_t* msg, int len, uint16_t* systemId,
                                                             uint16_t* networkId);
+/** Reads the CDMA base station id and position from a GetServingSystem response.
+ *  Reads item 0x14 CDMABaseStationInformation of a GetServingSystem message (0x0024): u16 base station id, u32
+ *  latitude, u32 longitude.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param baseId receives the base station id, native value (required)
+ *  @param latitude receives the latitude in units of 0.25 arc-second, a signed value stored as u32 (required)
+ *  @param longitude receives the longitude in units of 0.25 arc-second, a signed value stored as u32 (required)
+ *  @return the value length of item 0x14; ZOVQMI_ERR_ARG: msg, baseId, latitude or longitude is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0024 in msg; ZOVQMI_ERR_NO_TLV: no item 0x14; ZOVQMI_ERR_MALFORMED: an
+ *          item or a field read runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetServingSystemRespGetCDMABaseStationInformation(const uint8_t* msg, int len,
                                                                           uint16_t* baseId, uint32_t* latitude,
                                                                           uint32_t* longitude);
+/** Reads the roaming indicator per radio interface from a GetServingSystem response.
+ *  Reads item 0x15 RoamingIndicatorList of a GetServingSystem message (0x0024): a count byte, then count pairs {radio
+ *  interface byte, roaming indicator byte}.
+ *  The count is not compared with the item length.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param count receives the number of pairs (required)
+ *  @param first receives the count radio interfaces (0x00 none, 0x01 cdma2000 1x, 0x02 cdma2000 HRPD, 0x03 AMPS, 0x04
+ *         GSM, 0x05 UMTS, 0x08 LTE); may be null
+ *  @param second receives the count roaming indicators (0 roaming, 1 home); may be null
+ *  @return the value length of item 0x15; ZOVQMI_ERR_ARG: msg or count is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0024 in msg; ZOVQMI_ERR_NO_TLV: no item 0x15; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetServingSystemRespGetRoamingIndicatorList(const uint8_t* msg, int len, uint8_t* count,
                                                                     uint8_t* first, uint8_t* second);
+/** Reads the default roaming indicator from a GetServingSystem response.
+ *  Reads item 0x16 DefaultRoamingIndicator of a GetServingSystem message (0x0024): one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param value receives the roaming indicator the preferred roaming list sets by default (required)
+ *  @return the value length of item 0x16; ZOVQMI_ERR_ARG: msg or value is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0024 in msg; ZOVQMI_ERR_NO_TLV: no item 0x16; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetServingSystemRespGetDefaultRoamingIndicator(const uint8_t* msg, int len, uint8_t* value);
+/** Reads the 3GPP2 time zone from a GetServingSystem response.
+ *  Reads item 0x17 3GPP2TimeZone of a GetServingSystem message (0x0024): leap seconds byte, local offset byte,
+ *  daylight saving byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param leapSeconds receives the leap seconds since the start of CDMA system time (required)
+ *  @param localOffset receives the offset of local time from UTC in units of 30 minutes, a signed value (required)
+ *  @param daylightSaving receives 1 when daylight saving time is in effect, else 0 (required)
+ *  @return the value length of item 0x17; ZOVQMI_ERR_ARG: msg or any of the three outputs is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0024 in msg; ZOVQMI_ERR_NO_TLV: no item 0x17; ZOVQMI_ERR_MALFORMED: an
+ *          item or a field read runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetServingSystemRespGet3GPP2TimeZone(const uint8_t* msg, int len, uint8_t* leapSeconds,
                                                              uint8_t* localOffset, uint8_t* daylightSaving);
+/** Reads the CDMA protocol revision in use from a GetServingSystem response.
+ *  Reads item 0x18 CDMAPRevInUse of a GetServingSystem message (0x0024): one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param pRev receives the protocol revision (P_REV) in use (required)
+ *  @return the value length of item 0x18; ZOVQMI_ERR_ARG: msg or pRev is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0024 in msg; ZOVQMI_ERR_NO_TLV: no item 0x18; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetServingSystemRespGetCDMAPRevInUse(const uint8_t* msg, int len, uint8_t* pRev);
+/** Parses a ServingSystem indication (0x0024) into a NASServingSystem record.
+ *  Item 0x01 as in the response; there is no result item. Its optional items are read with the
+ *  zovQMINASGetServingSystemRespGet... functions, which look for the same id.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param servingSystem receives the serving system (required); set its list pointer beforehand, or to null to skip
+ *         the list
+ *  @return the TLV-area length; ZOVQMI_ERR_ARG: msg or servingSystem is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0024 in msg; ZOVQMI_ERR_NO_TLV: no item 0x01; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetServingSystemIND(const uint8_t* msg, int len, NASServingSystem* servingSystem);
 
-/* GetHomeNetwork 0x0025 */
+/** @} */
+/** @defgroup nas_get_home_network GetHomeNetwork (0x0025)
+ *  @ingroup svc_nas
+ *  @brief Asks for the home network of the subscription.
+ *  @{
+ */
+/** Builds a GetHomeNetwork request (0x0025): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASGetHomeNetworkReq(uint8_t* buf, int bufsize);
+/** Parses a GetHomeNetwork response (0x0025) into a NASNetworkRecord.
+ *  Item 0x01: u16 MCC, u16 MNC, description length n, n description bytes.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param network receives firstCode (MCC), secondCode (MNC) and descriptionLength, and the network name (not
+ *         terminated) through its description pointer when the caller set one; thirdCode and status are left alone
+ *         (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or network
+ *          is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0025 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMINASGetHomeNetworkResp(const uint8_t* msg, int len, QmiResult* result, NASNetworkRecord* network);
+/** Reads the CDMA home system and network ids from a GetHomeNetwork response.
+ *  Reads item 0x10 HomeSystemID of a GetHomeNetwork message (0x0025): u16 SID, u16 NID.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param systemId receives the home system id (SID), native value (required)
+ *  @param networkId receives the home network id (NID), native value (required)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg, systemId or networkId is null; ZOVQMI_ERR_NO_MESSAGE:
+ *          no message 0x0025 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an item or a field read
+ *          runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetHomeNetworkRespGetHomeSystemID(const uint8_t* msg, int len, uint16_t* systemId,
                                                           uint16_t* networkId);
 
-/* GetPreferredNetworks 0x0026, SetPreferredNetworks 0x0027 */
+/** @} */
+/** @defgroup nas_get_preferred_networks GetPreferredNetworks (0x0026)
+ *  @ingroup svc_nas
+ *  @brief Asks for the preferred 3GPP networks stored on the SIM and in the modem.
+ *  @{
+ */
+/** Builds a GetPreferredNetworks request (0x0026): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASGetPreferredNetworksReq(uint8_t* buf, int bufsize);
+/** Parses a GetPreferredNetworks response (0x0026): only the result item 0x02 is read.
+ *  The lists are optional items: read them with the RespGet functions.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0026 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMINASGetPreferredNetworksResp(const uint8_t* msg, int len, QmiResult* result);
+/** Reads the preferred networks of a GetPreferredNetworks response.
+ *  Reads item 0x10 3GPPPreferredNetworks of a GetPreferredNetworks message (0x0026): a u16 count, then count entries
+ *  {u16 MCC, u16 MNC, u16 access technology}.
+ *  The count is not compared with the item length.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param count receives the number of networks, native value (required)
+ *  @param list array of count NASNetworkRecord; fills firstCode (MCC), secondCode (MNC) and thirdCode (the access
+ *         technology bits as the modem defines them) of each and leaves the other fields alone; may be null to learn
+ *         the count
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg or count is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0026 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetPreferredNetworksRespGet3GPPPreferredNetworks(const uint8_t* msg, int len, uint16_t* count,
                                                                          NASNetworkRecord* list);
+/** Reads the static preferred networks of a GetPreferredNetworks response.
+ *  Reads item 0x11 Static3GPPPreferredNetworks of a GetPreferredNetworks message (0x0026): a u16 count, then count
+ *  entries {u16 MCC, u16 MNC, u16 access technology}.
+ *  The count is not compared with the item length.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param count receives the number of networks, native value (required)
+ *  @param list array of count NASNetworkRecord; fills firstCode (MCC), secondCode (MNC) and thirdCode (the access
+ *         technology bits as the modem defines them) of each and leaves the other fields alone; may be null to learn
+ *         the count
+ *  @return the value length of item 0x11; ZOVQMI_ERR_ARG: msg or count is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0026 in msg; ZOVQMI_ERR_NO_TLV: no item 0x11; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetPreferredNetworksRespGetStatic3GPPPreferredNetworks(const uint8_t* msg, int len,
                                                                                uint16_t* count,
                                                                                NASNetworkRecord* list);
+/** @} */
+/** @defgroup nas_set_preferred_networks SetPreferredNetworks (0x0027)
+ *  @ingroup svc_nas
+ *  @brief Replaces the preferred 3GPP networks.
+ *  @{
+ */
+/** Builds a SetPreferredNetworks request (0x0027): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASSetPreferredNetworksReq(uint8_t* buf, int bufsize);
+/** Appends item 0x10 3GPPPreferredNetworks to a SetPreferredNetworks request (0x0027).
+ *  Adds 5 + 6 x count bytes: type, length 2 + 6 x count, u16 count, then firstCode, secondCode and thirdCode of each
+ *  record, little-endian.
+ *  @param buf the request, begun by zovQMINASSetPreferredNetworksReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param count number of networks, at most 170 (the item value holds 1024 bytes)
+ *  @param list count NASNetworkRecord entries, walked with the record size as stride; its codes are read as
+ *         little-endian bytes (MCC, MNC, the access technology bits as the modem defines them); may be null when
+ *         count is 0
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null, or count is non-zero and list is null;
+ *          ZOVQMI_ERR_MALFORMED: count is above 170; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize (nothing
+ *          written).
+ */
 ZOVQMI_API int zovQMINASSetPreferredNetworksReqAdd3GPPPreferredNetworks(uint8_t* buf, int bufsize, uint32_t count,
                                                                         const NASNetworkRecord* list);
+/** Parses a SetPreferredNetworks response (0x0027): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0027 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMINASSetPreferredNetworksResp(const uint8_t* msg, int len, QmiResult* result);
 
-/* GetForbiddenNetworks 0x0028, SetForbiddenNetworks 0x0029 */
+/** @} */
+/** @defgroup nas_get_forbidden_networks GetForbiddenNetworks (0x0028)
+ *  @ingroup svc_nas
+ *  @brief Asks for the forbidden 3GPP networks.
+ *  @{
+ */
+/** Builds a GetForbiddenNetworks request (0x0028): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASGetForbiddenNetworksReq(uint8_t* buf, int bufsize);
+/** Parses a GetForbiddenNetworks response (0x0028): only the result item 0x02 is read.
+ *  The list is an optional item: read it with zovQMINASGetForbiddenNetworksRespGet3GPPForbiddenNetworks().
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0028 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMINASGetForbiddenNetworksResp(const uint8_t* msg, int len, QmiResult* result);
+/** Reads the forbidden networks of a GetForbiddenNetworks response.
+ *  Reads item 0x10 3GPPForbiddenNetworks of a GetForbiddenNetworks message (0x0028): a u16 count, then count entries
+ *  {u16 MCC, u16 MNC}.
+ *  The count is not compared with the item length.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param count receives the number of networks, native value (required)
+ *  @param list array of count NASNetworkRecord; fills firstCode (MCC) and secondCode (MNC) of each and leaves the
+ *         other fields alone; may be null to learn the count
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg or count is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0028 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetForbiddenNetworksRespGet3GPPForbiddenNetworks(const uint8_t* msg, int len, uint16_t* count,
                                                                          NASNetworkRecord* list);
+/** @} */
+/** @defgroup nas_set_forbidden_networks SetForbiddenNetworks (0x0029)
+ *  @ingroup svc_nas
+ *  @brief Replaces the forbidden 3GPP networks.
+ *  @{
+ */
+/** Builds a SetForbiddenNetworks request (0x0029): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASSetForbiddenNetworksReq(uint8_t* buf, int bufsize);
+/** Appends item 0x10 3GPPForbiddenNetworks to a SetForbiddenNetworks request (0x0029).
+ *  Adds 5 + 4 x count bytes: type, length 2 + 4 x count, u16 count, then firstCode and secondCode of each record,
+ *  little-endian.
+ *  @param buf the request, begun by zovQMINASSetForbiddenNetworksReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param count number of networks, at most 255 (the item value holds 1024 bytes)
+ *  @param list count NASNetworkRecord entries, walked with the record size as stride; firstCode (MCC) and secondCode
+ *         (MNC) are read as little-endian bytes; may be null when count is 0
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null, or count is non-zero and list is null;
+ *          ZOVQMI_ERR_MALFORMED: count is above 255; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize (nothing
+ *          written).
+ */
 ZOVQMI_API int zovQMINASSetForbiddenNetworksReqAdd3GPPForbiddenNetworks(uint8_t* buf, int bufsize, uint32_t count,
                                                                         const NASNetworkRecord* list);
+/** Parses a SetForbiddenNetworks response (0x0029): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0029 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMINASSetForbiddenNetworksResp(const uint8_t* msg, int len, QmiResult* result);
 
-/* GetACCOLC 0x002C, SetACCOLC 0x002D */
+/** @} */
+/** @defgroup nas_get_accolc GetACCOLC (0x002C)
+ *  @ingroup svc_nas
+ *  @brief Asks for the access overload class.
+ *  @{
+ */
+/** Builds a GetACCOLC request (0x002C): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASGetACCOLCReq(uint8_t* buf, int bufsize);
+/** Parses a GetACCOLC response (0x002C): the access overload class.
+ *  Item 0x01: one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param accolc receives the access overload class, 0 to 15 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or accolc is
+ *          null; ZOVQMI_ERR_NO_MESSAGE: no message 0x002C in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMINASGetACCOLCResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* accolc);
+/** @} */
+/** @defgroup nas_set_accolc SetACCOLC (0x002D)
+ *  @ingroup svc_nas
+ *  @brief Sets the access overload class, under the service programming code.
+ *  @{
+ */
+/** Builds a SetACCOLC request (0x002D) with its mandatory item 0x01.
+ *  Item 0x01 (length 7): the 6 code bytes (message bytes 10 to 15), then the class byte.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param code the 6-byte service programming code, copied as it is (required)
+ *  @param accolc the access overload class, 0 to 15
+ *  @return 17, the message length; ZOVQMI_ERR_ARG: buf or code is null, or bufsize < 17.
+ */
 ZOVQMI_API int zovQMINASSetACCOLCReq(uint8_t* buf, int bufsize, const uint8_t* code, uint8_t accolc);
+/** Parses a SetACCOLC response (0x002D): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x002D in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMINASSetACCOLCResp(const uint8_t* msg, int len, QmiResult* result);
 
-/* GetDeviceConfig 0x002F, SetDeviceConfig 0x0030 */
+/** @} */
+/** @defgroup nas_get_device_config GetDeviceConfig (0x002F)
+ *  @ingroup svc_nas
+ *  @brief Asks for the CDMA and HDR device settings.
+ *  @{
+ */
+/** Builds a GetDeviceConfig request (0x002F): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASGetDeviceConfigReq(uint8_t* buf, int bufsize);
+/** Parses a GetDeviceConfig response (0x002F): only the result item 0x02 is read.
+ *  Every setting is an optional item: read them with the RespGet functions.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x002F in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMINASGetDeviceConfigResp(const uint8_t* msg, int len, QmiResult* result);
+/** Reads the slot cycle index of a GetDeviceConfig response.
+ *  Reads item 0x11 SlotCycleIndex of a GetDeviceConfig message (0x002F): one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param index receives the CDMA paging slot cycle index (required)
+ *  @return the value length of item 0x11; ZOVQMI_ERR_ARG: msg or index is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x002F in msg; ZOVQMI_ERR_NO_TLV: no item 0x11; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetDeviceConfigRespGetSlotCycleIndex(const uint8_t* msg, int len, uint8_t* index);
+/** Reads the station class mark of a GetDeviceConfig response.
+ *  Reads item 0x12 StationClassMark of a GetDeviceConfig message (0x002F): one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param mark receives the CDMA station class mark (required)
+ *  @return the value length of item 0x12; ZOVQMI_ERR_ARG: msg or mark is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x002F in msg; ZOVQMI_ERR_NO_TLV: no item 0x12; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetDeviceConfigRespGetStationClassMark(const uint8_t* msg, int len, uint8_t* mark);
+/** Reads the registration parameters of a GetDeviceConfig response.
+ *  Reads item 0x13 RegistrationParameters of a GetDeviceConfig message (0x002F): three bytes.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param first receives the first byte (required)
+ *  @param second receives the second byte (required)
+ *  @param third receives the third byte (required)
+ *  @return the value length of item 0x13; ZOVQMI_ERR_ARG: msg or any of the three outputs is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x002F in msg; ZOVQMI_ERR_NO_TLV: no item 0x13; ZOVQMI_ERR_MALFORMED: an
+ *          item or a field read runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetDeviceConfigRespGetRegistrationParameters(const uint8_t* msg, int len, uint8_t* first,
                                                                      uint8_t* second, uint8_t* third);
+/** Reads the forced HDR revision setting of a GetDeviceConfig response.
+ *  Reads item 0x14 ForceHDRRevision of a GetDeviceConfig message (0x002F): one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param revision receives the forced HDR revision setting as the modem defines it (required)
+ *  @return the value length of item 0x14; ZOVQMI_ERR_ARG: msg or revision is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x002F in msg; ZOVQMI_ERR_NO_TLV: no item 0x14; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetDeviceConfigRespGetForceHDRRevision(const uint8_t* msg, int len, uint8_t* revision);
+/** Reads the HDR session configuration of a GetDeviceConfig response.
+ *  Reads item 0x15 HDRSCPCustomConfig of a GetDeviceConfig message (0x002F): active byte, then three u32.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param active receives 1 when the custom configuration is active, else 0 (required)
+ *  @param first receives the first u32, native (required)
+ *  @param second receives the second u32, native (required)
+ *  @param third receives the third u32, native (required)
+ *  @return the value length of item 0x15; ZOVQMI_ERR_ARG: msg or any of the four outputs is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x002F in msg; ZOVQMI_ERR_NO_TLV: no item 0x15; ZOVQMI_ERR_MALFORMED: an
+ *          item or a field read runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetDeviceConfigRespGetHDRSCPCustomConfig(const uint8_t* msg, int len, uint8_t* active,
                                                                  uint32_t* first, uint32_t* second, uint32_t* third);
+/** Reads the roaming preference of a GetDeviceConfig response.
+ *  Reads item 0x16 RoamPreference of a GetDeviceConfig message (0x002F): one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param preference receives the roaming preference as the modem defines it (required)
+ *  @return the value length of item 0x16; ZOVQMI_ERR_ARG: msg or preference is null; ZOVQMI_ERR_NO_MESSAGE: no
+ *          message 0x002F in msg; ZOVQMI_ERR_NO_TLV: no item 0x16; ZOVQMI_ERR_MALFORMED: an item or a field read runs
+ *          past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetDeviceConfigRespGetRoamPreference(const uint8_t* msg, int len, uint8_t* preference);
+/** @} */
+/** @defgroup nas_set_device_config SetDeviceConfig (0x0030)
+ *  @ingroup svc_nas
+ *  @brief Changes CDMA and HDR device settings.
+ *  @{
+ */
+/** Builds a SetDeviceConfig request (0x0030): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASSetDeviceConfigReq(uint8_t* buf, int bufsize);
+/** Appends item 0x10 ServiceProgrammingCode to a SetDeviceConfig request (0x0030).
+ *  Adds 9 bytes: type, length 6, the 6 code bytes as they are.
+ *  @param buf the request, begun by zovQMINASSetDeviceConfigReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param code the 6-byte service programming code (required)
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null or code is null; ZOVQMI_ERR_NO_ROOM: the item does not
+ *          fit in bufsize (nothing written).
+ */
 ZOVQMI_API int zovQMINASSetDeviceConfigReqAddServiceProgrammingCode(uint8_t* buf, int bufsize, const uint8_t* code);
+/** Appends item 0x14 ForceHDRRevision to a SetDeviceConfig request (0x0030).
+ *  Adds 4 bytes: type, length 1, the revision byte.
+ *  @param buf the request, begun by zovQMINASSetDeviceConfigReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param revision the forced HDR revision setting as the modem defines it
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASSetDeviceConfigReqAddForceHDRRevision(uint8_t* buf, int bufsize, uint8_t revision);
+/** Appends item 0x15 HDRSCPCustomConfig to a SetDeviceConfig request (0x0030).
+ *  Adds 16 bytes: type, length 13, the active byte, then the three values as little-endian u32.
+ *  @param buf the request, begun by zovQMINASSetDeviceConfigReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param active 1 to activate the custom configuration, 0 to deactivate it
+ *  @param first the first 32-bit value
+ *  @param second the second 32-bit value
+ *  @param third the third 32-bit value
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASSetDeviceConfigReqAddHDRSCPCustomConfig(uint8_t* buf, int bufsize, uint8_t active,
                                                                 uint32_t first, uint32_t second, uint32_t third);
+/** Appends item 0x16 RoamPreference to a SetDeviceConfig request (0x0030).
+ *  Adds 4 bytes: type, length 1, the preference byte.
+ *  @param buf the request, begun by zovQMINASSetDeviceConfigReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param preference the roaming preference as the modem defines it
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASSetDeviceConfigReqAddRoamPreference(uint8_t* buf, int bufsize, uint8_t preference);
+/** Parses a SetDeviceConfig response (0x0030): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0030 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMINASSetDeviceConfigResp(const uint8_t* msg, int len, QmiResult* result);
 
-/* GetRFBandInfo 0x0031, GetANAAAStatus 0x0032 */
+/** @} */
+/** @defgroup nas_get_rf_band_info GetRFBandInfo (0x0031)
+ *  @ingroup svc_nas
+ *  @brief Asks for the band and channel in use per radio interface.
+ *  @{
+ */
+/** Builds a GetRFBandInfo request (0x0031): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASGetRFBandInfoReq(uint8_t* buf, int bufsize);
+/** Parses a GetRFBandInfo response (0x0031): the RF band list.
+ *  Item 0x01: a count byte, then count 5-byte entries {radio interface, u16 band class, u16 channel}. The count is
+ *  not compared with the item length.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param count receives the number of entries (required)
+ *  @param list receives count NASRFBandRecord entries copied as they are, up to 255; may be null to learn the count
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or count is
+ *          null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0031 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMINASGetRFBandInfoResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
                                           NASRFBandRecord* list);
+/** @} */
+/** @defgroup nas_get_an_aaa_status GetANAAAStatus (0x0032)
+ *  @ingroup svc_nas
+ *  @brief Asks for the state of the HDR access network authentication (AN-AAA).
+ *  @{
+ */
+/** Builds a GetANAAAStatus request (0x0032): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASGetANAAAStatusReq(uint8_t* buf, int bufsize);
+/** Parses a GetANAAAStatus response (0x0032).
+ *  Item 0x01: one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param status receives the authentication status as the modem defines it (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or status is
+ *          null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0032 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMINASGetANAAAStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status);
 
-/* SetSystemSelectionPreference 0x0033, GetSystemSelectionPreference 0x0034
- * and the SystemSelectionPreference indication */
+/** @} */
+/** @defgroup nas_set_system_selection_preference SetSystemSelectionPreference (0x0033)
+ *  @ingroup svc_nas
+ *  @brief Chooses which radio technologies, bands and roaming the modem may use.
+ *  @{
+ */
+/** Builds a SetSystemSelectionPreference request (0x0033): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceReq(uint8_t* buf, int bufsize);
+/** Appends item 0x10 EmergencyMode to a SetSystemSelectionPreference request (0x0033).
+ *  Adds 4 bytes: type, length 1, the mode byte.
+ *  @param buf the request, begun by zovQMINASSetSystemSelectionPreferenceReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param mode emergency mode: 0 off, 1 on
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceReqAddEmergencyMode(uint8_t* buf, int bufsize, uint8_t mode);
+/** Appends item 0x11 ModePreference to a SetSystemSelectionPreference request (0x0033).
+ *  Adds 5 bytes: type, length 2, the preference as a little-endian u16.
+ *  @param buf the request, begun by zovQMINASSetSystemSelectionPreferenceReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param preference the radio technologies allowed: bit 0 cdma2000 1x, bit 1 cdma2000 HRPD, bit 2 GSM, bit 3 UMTS,
+ *         bit 4 LTE
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceReqAddModePreference(uint8_t* buf, int bufsize,
                                                                          uint16_t preference);
+/** Appends item 0x12 BandPreference to a SetSystemSelectionPreference request (0x0033).
+ *  Adds 11 bytes: type, length 8, the preference as a u64, low 32-bit word first.
+ *  @param buf the request, begun by zovQMINASSetSystemSelectionPreferenceReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param preference the band mask, one bit per band as the modem defines them
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceReqAddBandPreference(uint8_t* buf, int bufsize,
                                                                          uint64_t preference);
+/** Appends item 0x13 CDMAPRLPreference to a SetSystemSelectionPreference request (0x0033).
+ *  Adds 5 bytes: type, length 2, the preference as a little-endian u16.
+ *  @param buf the request, begun by zovQMINASSetSystemSelectionPreferenceReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param preference the CDMA PRL preference: 0x0001 A side only, 0x0002 B side only, 0x3FFF any
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceReqAddCDMAPRLPreference(uint8_t* buf, int bufsize,
                                                                             uint16_t preference);
+/** Appends item 0x14 RoamingPreference to a SetSystemSelectionPreference request (0x0033).
+ *  Adds 5 bytes: type, length 2, the preference as a little-endian u16.
+ *  @param buf the request, begun by zovQMINASSetSystemSelectionPreferenceReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param preference the roaming preference: 0x01 only where the roaming indicator is off, 0x02 only where it is not
+ *         off, 0x03 where it is off or solid (not flashing), 0xFF any
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceReqAddRoamingPreference(uint8_t* buf, int bufsize,
                                                                             uint16_t preference);
+/** Parses a SetSystemSelectionPreference response (0x0033): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0033 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMINASSetSystemSelectionPreferenceResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup nas_get_system_selection_preference GetSystemSelectionPreference (0x0034)
+ *  @ingroup svc_nas
+ *  @brief Asks for the system selection preference; the SystemSelectionPreference indication carries the same id and
+ *  items.
+ *  @{
+ */
+/** Builds a GetSystemSelectionPreference request (0x0034): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceReq(uint8_t* buf, int bufsize);
+/** Parses a GetSystemSelectionPreference response (0x0034): only the result item 0x02 is read.
+ *  Every preference is an optional item: read them with the RespGet functions.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0034 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceResp(const uint8_t* msg, int len, QmiResult* result);
+/** Reads the emergency mode of a system selection preference message.
+ *  Reads item 0x10 EmergencyMode of a GetSystemSelectionPreference or SystemSelectionPreference message (0x0034): one
+ *  byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param mode receives the emergency mode: 0 off, 1 on (required)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg or mode is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0034 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceRespGetEmergencyMode(const uint8_t* msg, int len, uint8_t* mode);
+/** Reads the mode preference of a system selection preference message.
+ *  Reads item 0x11 ModePreference of a GetSystemSelectionPreference or SystemSelectionPreference message (0x0034): a
+ *  u16.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param preference receives the radio technologies allowed: bit 0 cdma2000 1x, bit 1 cdma2000 HRPD, bit 2 GSM, bit
+ *         3 UMTS, bit 4 LTE; native value (required)
+ *  @return the value length of item 0x11; ZOVQMI_ERR_ARG: msg or preference is null; ZOVQMI_ERR_NO_MESSAGE: no
+ *          message 0x0034 in msg; ZOVQMI_ERR_NO_TLV: no item 0x11; ZOVQMI_ERR_MALFORMED: an item or a field read runs
+ *          past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceRespGetModePreference(const uint8_t* msg, int len,
                                                                           uint16_t* preference);
+/** Reads the band preference of a system selection preference message.
+ *  Reads item 0x12 BandPreference of a GetSystemSelectionPreference or SystemSelectionPreference message (0x0034): a
+ *  u64, low 32-bit word first.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param preference receives the band mask, native value (required)
+ *  @return the value length of item 0x12; ZOVQMI_ERR_ARG: msg or preference is null; ZOVQMI_ERR_NO_MESSAGE: no
+ *          message 0x0034 in msg; ZOVQMI_ERR_NO_TLV: no item 0x12; ZOVQMI_ERR_MALFORMED: an item or a field read runs
+ *          past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceRespGetBandPreference(const uint8_t* msg, int len,
                                                                           uint64_t* preference);
+/** Reads the CDMA PRL preference of a system selection preference message.
+ *  Reads item 0x13 CDMAPRLPreference of a GetSystemSelectionPreference or SystemSelectionPreference message (0x0034):
+ *  a u16.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param preference receives the CDMA PRL preference: 0x0001 A side only, 0x0002 B side only, 0x3FFF any; native
+ *         value (required)
+ *  @return the value length of item 0x13; ZOVQMI_ERR_ARG: msg or preference is null; ZOVQMI_ERR_NO_MESSAGE: no
+ *          message 0x0034 in msg; ZOVQMI_ERR_NO_TLV: no item 0x13; ZOVQMI_ERR_MALFORMED: an item or a field read runs
+ *          past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceRespGetCDMAPRLPreference(const uint8_t* msg, int len,
                                                                              uint16_t* preference);
+/** Reads the roaming preference of a system selection preference message.
+ *  Reads item 0x14 RoamingPreference of a GetSystemSelectionPreference or SystemSelectionPreference message (0x0034):
+ *  a u16.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param preference receives the roaming preference: 0x01 only where the roaming indicator is off, 0x02 only where
+ *         it is not off, 0x03 where it is off or solid (not flashing), 0xFF any; native value (required)
+ *  @return the value length of item 0x14; ZOVQMI_ERR_ARG: msg or preference is null; ZOVQMI_ERR_NO_MESSAGE: no
+ *          message 0x0034 in msg; ZOVQMI_ERR_NO_TLV: no item 0x14; ZOVQMI_ERR_MALFORMED: an item or a field read runs
+ *          past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMINASGetSystemSelectionPreferenceRespGetRoamingPreference(const uint8_t* msg, int len,
                                                                              uint16_t* preference);
+/** Confirms that msg holds a SystemSelectionPreference indication (0x0034).
+ *  Only the message id is checked; read the items with the zovQMINASGetSystemSelectionPreferenceRespGet... functions,
+ *  which look for the same id.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @return the TLV-area length; ZOVQMI_ERR_ARG: msg is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0034 in msg. No item
+ *          is read, so it never gives ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMINASSystemSelectionPreferenceIND(const uint8_t* msg, int len);
 
-/* SetDDTMPreference (request written as 0x0033, response 0x0037) and the
- * DDTM indication 0x0038 */
+/** @} */
+/** @defgroup nas_set_ddtm_preference SetDDTMPreference (0x0037)
+ *  @ingroup svc_nas
+ *  @brief Sets the data dedicated transmission mode (DDTM) preference.
+ *  @{
+ */
+/** Builds a SetDDTMPreference request with its mandatory item 0x01.
+ *  Item 0x01 (length 5 + 2 x count): first byte, second value as a little-endian u16, third byte, count byte, then
+ *  count little-endian u16 entries from message byte 15.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param first the first value byte
+ *  @param second the second value, 16 bits
+ *  @param third the third value byte
+ *  @param count number of list entries
+ *  @param list count 16-bit entries, native values; may be null when count is 0
+ *  @return 15 + 2 x count, the message length; ZOVQMI_ERR_ARG: count is non-zero and list is null (checked first),
+ *          buf is null, or bufsize < 15 + 2 x count.
+ *  @note Deliberate: the request is written with message id 0x0033, the id of SetSystemSelectionPreference, while its
+ *        response is looked for as 0x0037.
+ */
 ZOVQMI_API int zovQMINASSetDDTMPreferenceReq(uint8_t* buf, int bufsize, uint8_t first, uint16_t second, uint8_t third,
                                              uint8_t count, const uint16_t* list);
+/** Parses a SetDDTMPreference response (0x0037): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0037 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ *  @note Deliberate: looks for message id 0x0037, not the 0x0033 its request is written with.
+ */
 ZOVQMI_API int zovQMINASSetDDTMPreferenceResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup nas_ddtm DDTM indication (0x0038)
+ *  @ingroup svc_nas
+ *  @brief Reports the DDTM settings in force.
+ *  @{
+ */
+/** Parses a DDTM indication (0x0038).
+ *  Item 0x01: first byte, second byte, u16 third value, count byte, then count u16 entries from value byte 5. The
+ *  count is not compared with the item length.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param first receives the first byte (required)
+ *  @param second receives the second byte (required)
+ *  @param third receives the third value, 16 bits, native (required)
+ *  @param count receives the number of list entries (required)
+ *  @param list receives the count 16-bit entries, native values; may be null only when the count is 0
+ *  @return 0 on success; ZOVQMI_ERR_ARG: msg, first, second, third or count is null, or the count read is non-zero
+ *          while list is null (nothing written); ZOVQMI_ERR_NO_MESSAGE: no message 0x0038 in msg; ZOVQMI_ERR_NO_TLV:
+ *          no item 0x01; ZOVQMI_ERR_MALFORMED: an item or a field read runs past the end of msg (nothing written).
+ *  @note Deliberate: returns 0 on success, not the TLV-area length the other indication parsers return.
+ */
 ZOVQMI_API int zovQMINASDDTMIND(const uint8_t* msg, int len, uint8_t* first, uint8_t* second, uint16_t* third,
                                 uint8_t* count, uint16_t* list);
+/** @} */
 /* ------------------------------------------------------------ end NAS -- */
 
 
 /* ---------------------------------------------------------------- WMS -- */
-/* Records of the messaging service. */
+/** @defgroup svc_wms WMS: wireless messaging service (service 5)
+ *  @brief Short messages: store, read, list, send and acknowledge; routes, service centre address, broadcast
+ *  settings.
+ *  @note Deliberate: parsers read fixed fields at their offsets and take counts and lengths from the message as they
+ *  stand, without comparing them with the item's length: a short item is read on into the bytes that follow it. Only
+ *  a read past the end of the received message is refused, with ZOVQMI_ERR_MALFORMED, and the outputs of that
+ *  item are then left untouched.
+ */
 #pragma pack(push, 1)
 
-/* A raw short message as it crosses the interface: a 10-byte head followed by
- * the raw bytes.  Multi-byte fields are little-endian bytes on every host.
- * Each function uses only some head fields: the event report's transfer-route
- * item writes the route flag and reference, raw write reads the memory store,
- * raw read writes the tag, and format and length travel with every raw
- * message.  The caller sizes the record for `length` bytes of `data`. */
+/** A raw short message as it crosses the interface: a 10-byte head followed by `length` raw bytes, so 10 +
+ *  length bytes in all. Packed; the multi-byte integer fields hold little-endian bytes on every host. Each
+ *  function uses only some head fields: the event report's transfer-route item writes the route flag and
+ *  reference, raw write reads the memory store, raw read writes the tag, and format and length travel with every
+ *  raw message. The caller sizes the record for the raw bytes; the library checks no capacity.
+ *  @ingroup svc_wms
+ */
 typedef struct WMSRawMessage {
-    uint8_t routeFlag;
-    uint32_t routeReference;
-    uint8_t memoryStore;
-    uint8_t messageTag;
-    uint8_t messageFormat;
-    uint16_t length;
-    uint8_t data[];
+    uint8_t routeFlag;        /**< transfer-route messages: 0 acknowledge it with zovQMIWMSSendACKReq(), 1 no
+                                   acknowledgement needed */
+    uint32_t routeReference;  /**< transfer-route messages: the reference to quote in the acknowledgement
+                                   (little-endian bytes) */
+    uint8_t memoryStore;      /**< raw write: the store, 0 UIM, 1 device memory */
+    uint8_t messageTag;       /**< raw read: 0 MT read, 1 MT not read, 2 MO sent, 3 MO not sent */
+    uint8_t messageFormat;    /**< 0 CDMA, 6 GSM/WCDMA point-to-point, 7 GSM/WCDMA broadcast, 8 message waiting */
+    uint16_t length;          /**< number of raw bytes in data (little-endian bytes) */
+    uint8_t data[];           /**< the raw message (a PDU), length bytes */
 } WMSRawMessage;
 
-/* One broadcast configuration entry (9 bytes), shared by the 3GPP and 3GPP2
- * functions: the 3GPP ones use the first word pair and the selection byte,
- * the 3GPP2 ones the second pair and the selection byte. */
+/** One broadcast configuration entry, shared by the 3GPP (GSM/WCDMA) and 3GPP2 (CDMA) functions: the 3GPP ones
+ *  use the first word pair and the selection byte, the 3GPP2 ones the second pair and the selection byte, and
+ *  each leaves the other pair alone. 9 bytes, packed; the multi-byte integer fields hold little-endian bytes on
+ *  every host. Arrays are walked with a stride of 9 bytes.
+ *  @ingroup svc_wms
+ */
 typedef struct WMSBroadcastConfigEntry {
-    uint16_t first3GPP;
-    uint16_t second3GPP;
-    uint16_t first3GPP2;
-    uint16_t second3GPP2;
-    uint8_t selection;
+    uint16_t first3GPP;    /**< 3GPP: first message id of the range (little-endian bytes) */
+    uint16_t second3GPP;   /**< 3GPP: last message id of the range (little-endian bytes) */
+    uint16_t first3GPP2;   /**< 3GPP2: service category (little-endian bytes) */
+    uint16_t second3GPP2;  /**< 3GPP2: language (little-endian bytes) */
+    uint8_t selection;     /**< 1 the range or category is selected, 0 not */
 } WMSBroadcastConfigEntry;
 
 #pragma pack(pop)
 
+/** @defgroup wms_reset Reset (0x0000)
+ *  @ingroup svc_wms
+ *  @brief Resets the WMS state of the client.
+ *  @{
+ */
+/** Builds a Reset request (0x0000): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIWMSResetReq(uint8_t* buf, int bufsize);
+/** Parses a Reset response (0x0000): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0000 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIWMSResetResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wms_set_event_report SetEventReport (0x0001)
+ *  @ingroup svc_wms
+ *  @brief Asks the modem to report new mobile-terminated messages with the EventReport indication.
+ *  @{
+ */
+/** Builds a SetEventReport request (0x0001): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIWMSSetEventReportReq(uint8_t* buf, int bufsize);
+/** Appends item 0x10 NewMTMessageIndicator to a SetEventReport request (0x0001).
+ *  Adds 4 bytes: type, length 1, the indicator byte.
+ *  @param buf the request, begun by zovQMIWMSSetEventReportReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param indicator reporting switch for new MT messages: 0 off, 1 on
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSSetEventReportReqAddNewMTMessageIndicator(uint8_t* buf, int bufsize, uint8_t indicator);
+/** Parses a SetEventReport response (0x0001): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0001 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIWMSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wms_event_report EventReport indication (0x0001)
+ *  @ingroup svc_wms
+ *  @brief Tells of a new mobile-terminated message; it carries the id of the SetEventReport request.
+ *  @{
+ */
+/** Confirms that msg holds an EventReport indication (0x0001).
+ *  Only the message id is checked; read the items with the zovQMIWMSEventReportINDGet... functions.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @return the TLV-area length; ZOVQMI_ERR_ARG: msg is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0001 in msg. No item
+ *          is read, so it never gives ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMIWMSEventReportIND(const uint8_t* msg, int len);
+/** Reads where a new message was stored, from an EventReport indication.
+ *  Reads item 0x10 MTMessage of a EventReport message (0x0001): store byte, u32 index.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param memoryStore receives the memory store: 0 UIM, 1 device memory (required)
+ *  @param memoryIndex receives the index of the message in that store, native (required)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg, memoryStore or memoryIndex is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0001 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an
+ *          item or a field read runs past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSEventReportINDGetMTMessage(const uint8_t* msg, int len, uint8_t* memoryStore,
                                                    uint32_t* memoryIndex);
+/** Reads a new message handed over directly (not stored), from an EventReport indication.
+ *  Reads item 0x11 TransferRouteMTMessage of a EventReport message (0x0001): route flag byte, u32 route reference,
+ *  format byte, u16 length n, n raw bytes.
+ *  The raw length is not compared with the item length or with any size of the record.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param message receives routeFlag (0: acknowledge it with zovQMIWMSSendACKReq(), 1: no acknowledgement needed),
+ *         routeReference (the reference to quote in that acknowledgement), messageFormat, length and the n raw bytes;
+ *         memoryStore and messageTag are left alone. Size it for the largest message accepted (required)
+ *  @return the value length of item 0x11; ZOVQMI_ERR_ARG: msg or message is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0001 in msg; ZOVQMI_ERR_NO_TLV: no item 0x11; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSEventReportINDGetTransferRouteMTMessage(const uint8_t* msg, int len, WMSRawMessage* message);
+/** Reads the message mode of an EventReport indication.
+ *  Reads item 0x12 MessageMode of a EventReport message (0x0001): one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param mode receives the message mode: 0 CDMA, 1 GSM/WCDMA (required)
+ *  @return the value length of item 0x12; ZOVQMI_ERR_ARG: msg or mode is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0001 in msg; ZOVQMI_ERR_NO_TLV: no item 0x12; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSEventReportINDGetMessageMode(const uint8_t* msg, int len, uint8_t* mode);
+/** @} */
+/** @defgroup wms_raw_send RawSend (0x0020)
+ *  @ingroup svc_wms
+ *  @brief Sends a message given as its raw bytes.
+ *  @{
+ */
+/** Builds a RawSend request (0x0020) with its mandatory item 0x01 taken from a WMSRawMessage.
+ *  Item 0x01 (length L + 3): messageFormat, the length L as a little-endian u16, then the L raw bytes; the other head
+ *  fields of the record are not read.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param message the message: messageFormat (0 CDMA, 6 GSM/WCDMA point-to-point, 7 GSM/WCDMA broadcast, 8 message
+ *         waiting), length L and data (required)
+ *  @return L + 13, the message length; ZOVQMI_ERR_ARG: message or buf is null, or bufsize < L + 13 (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSRawSendReq(uint8_t* buf, int bufsize, const WMSRawMessage* message);
+/** Appends item 0x10 ForceOnDC to a RawSend request (0x0020).
+ *  Adds 5 bytes: type, length 2, the two bytes in argument order.
+ *  @param buf the request, begun by zovQMIWMSRawSendReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param first 1 to send the message on a dedicated traffic channel (CDMA), else 0
+ *  @param second the service option to use for it
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSRawSendReqAddForceOnDC(uint8_t* buf, int bufsize, uint8_t first, uint8_t second);
+/** Appends item 0x11 FollowOnDC to a RawSend request (0x0020).
+ *  Adds 4 bytes: type, length 1, the value byte.
+ *  @param buf the request, begun by zovQMIWMSRawSendReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param value 1 to keep the dedicated channel up after the message is sent (CDMA), else 0
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSRawSendReqAddFollowOnDC(uint8_t* buf, int bufsize, uint8_t value);
+/** Appends item 0x12 LinkControl to a RawSend request (0x0020).
+ *  Adds 4 bytes: type, length 1, the value byte.
+ *  @param buf the request, begun by zovQMIWMSRawSendReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param value the link control setting as the modem defines it (GSM/WCDMA)
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSRawSendReqAddLinkControl(uint8_t* buf, int bufsize, uint8_t value);
+/** Parses a RawSend response (0x0020): the message reference.
+ *  Item 0x01: a u16.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param messageId receives the message reference given to the sent message, native (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or messageId
+ *          is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0020 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIWMSRawSendResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* messageId);
+/** Reads the cause code of a failed RawSend.
+ *  Reads item 0x10 CauseCode of a RawSend message (0x0020): a u16.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param cause receives the cause code of the failure, native (required)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg or cause is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0020 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSRawSendRespGetCauseCode(const uint8_t* msg, int len, uint16_t* cause);
+/** Reads the error class of a failed RawSend.
+ *  Reads item 0x11 ErrorClass of a RawSend message (0x0020): one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param errorClass receives the error class: 0 temporary, 1 permanent (required)
+ *  @return the value length of item 0x11; ZOVQMI_ERR_ARG: msg or errorClass is null; ZOVQMI_ERR_NO_MESSAGE: no
+ *          message 0x0020 in msg; ZOVQMI_ERR_NO_TLV: no item 0x11; ZOVQMI_ERR_MALFORMED: an item or a field read runs
+ *          past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSRawSendRespGetErrorClass(const uint8_t* msg, int len, uint8_t* errorClass);
+/** Reads the GSM/WCDMA cause of a failed RawSend.
+ *  Reads item 0x12 GWCauseInformation of a RawSend message (0x0020): u16 RP cause, TP cause byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param cause receives the RP cause, native (required)
+ *  @param extra receives the TP cause (required)
+ *  @return the value length of item 0x12; ZOVQMI_ERR_ARG: msg, cause or extra is null; ZOVQMI_ERR_NO_MESSAGE: no
+ *          message 0x0020 in msg; ZOVQMI_ERR_NO_TLV: no item 0x12; ZOVQMI_ERR_MALFORMED: an item or a field read runs
+ *          past the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSRawSendRespGetGWCauseInformation(const uint8_t* msg, int len, uint16_t* cause, uint8_t* extra);
+/** @} */
+/** @defgroup wms_raw_write RawWrite (0x0021)
+ *  @ingroup svc_wms
+ *  @brief Stores a message given as its raw bytes.
+ *  @{
+ */
+/** Builds a RawWrite request (0x0021) with its mandatory item 0x01 taken from a WMSRawMessage.
+ *  Item 0x01 (length L + 4): memoryStore, messageFormat, the length L as a little-endian u16, then the L raw bytes;
+ *  the other head fields of the record are not read.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param message the message: memoryStore (0 UIM, 1 device memory), messageFormat (0 CDMA, 6 GSM/WCDMA
+ *         point-to-point, 7 GSM/WCDMA broadcast, 8 message waiting), length L and data (required)
+ *  @return L + 14, the message length; ZOVQMI_ERR_ARG: message or buf is null, or bufsize < L + 14 (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSRawWriteReq(uint8_t* buf, int bufsize, const WMSRawMessage* message);
+/** Parses a RawWrite response (0x0021): where the message was stored.
+ *  Item 0x01: a u32.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param memoryIndex receives the index of the stored message, native (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or
+ *          memoryIndex is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0021 in msg; ZOVQMI_ERR_NO_TLV: no result item
+ *          (result untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item
+ *          or a field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIWMSRawWriteResp(const uint8_t* msg, int len, QmiResult* result, uint32_t* memoryIndex);
+/** @} */
+/** @defgroup wms_raw_read RawRead (0x0022)
+ *  @ingroup svc_wms
+ *  @brief Reads a stored message as its raw bytes.
+ *  @{
+ */
+/** Builds a RawRead request (0x0022) with its mandatory item 0x01.
+ *  Item 0x01 (length 5): store byte, index as a little-endian u32.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param memoryStore the memory store: 0 UIM, 1 device memory
+ *  @param memoryIndex the index of the message in that store
+ *  @return 15, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 15.
+ */
 ZOVQMI_API int zovQMIWMSRawReadReq(uint8_t* buf, int bufsize, uint8_t memoryStore, uint32_t memoryIndex);
+/** Appends item 0x10 MessageMode to a RawRead request (0x0022).
+ *  Adds 4 bytes: type, length 1, the mode byte.
+ *  @param buf the request, begun by zovQMIWMSRawReadReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param mode the message mode: 0 CDMA, 1 GSM/WCDMA
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSRawReadReqAddMessageMode(uint8_t* buf, int bufsize, uint8_t mode);
+/** Parses a RawRead response (0x0022) into a WMSRawMessage.
+ *  Item 0x01: tag byte, format byte, u16 length n, n raw bytes. The raw length is not compared with the item length
+ *  or with any size of the record.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param message receives messageTag (0 MT read, 1 MT not read, 2 MO sent, 3 MO not sent), messageFormat, length and
+ *         the n raw bytes; routeFlag, routeReference and memoryStore are left alone. Size it for the largest message
+ *         accepted (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or message
+ *          is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0022 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIWMSRawReadResp(const uint8_t* msg, int len, QmiResult* result, WMSRawMessage* message);
+/** @} */
+/** @defgroup wms_modify_tag ModifyTag (0x0023)
+ *  @ingroup svc_wms
+ *  @brief Changes the tag of a stored message (read, not read, sent, not sent).
+ *  @{
+ */
+/** Builds a ModifyTag request (0x0023) with its mandatory item 0x01.
+ *  Item 0x01 (length 6): store byte, index as a little-endian u32, tag byte.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param memoryStore the memory store: 0 UIM, 1 device memory
+ *  @param memoryIndex the index of the message in that store
+ *  @param tag the new tag: 0 MT read, 1 MT not read, 2 MO sent, 3 MO not sent
+ *  @return 16, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 16.
+ */
 ZOVQMI_API int zovQMIWMSModifyTagReq(uint8_t* buf, int bufsize, uint8_t memoryStore, uint32_t memoryIndex, uint8_t tag);
+/** Appends item 0x10 MessageMode to a ModifyTag request (0x0023).
+ *  Adds 4 bytes: type, length 1, the mode byte.
+ *  @param buf the request, begun by zovQMIWMSModifyTagReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param mode the message mode: 0 CDMA, 1 GSM/WCDMA
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSModifyTagReqAddMessageMode(uint8_t* buf, int bufsize, uint8_t mode);
+/** Parses a ModifyTag response (0x0023): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0023 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIWMSModifyTagResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wms_delete Delete (0x0024)
+ *  @ingroup svc_wms
+ *  @brief Deletes one stored message, the messages with a tag, or a whole store.
+ *  @{
+ */
+/** Builds a Delete request (0x0024) with its mandatory item 0x01.
+ *  Item 0x01 (length 1): the store byte. Without further items the whole store is deleted.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param memoryStore the memory store: 0 UIM, 1 device memory
+ *  @return 11, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 11.
+ */
 ZOVQMI_API int zovQMIWMSDeleteReq(uint8_t* buf, int bufsize, uint8_t memoryStore);
+/** Appends item 0x10 MemoryIndex to a Delete request (0x0024).
+ *  Adds 7 bytes: type, length 4, the index as a little-endian u32.
+ *  @param buf the request, begun by zovQMIWMSDeleteReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param memoryIndex the index of the one message to delete
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSDeleteReqAddMemoryIndex(uint8_t* buf, int bufsize, uint32_t memoryIndex);
+/** Appends item 0x11 MessageTag to a Delete request (0x0024).
+ *  Adds 4 bytes: type, length 1, the tag byte.
+ *  @param buf the request, begun by zovQMIWMSDeleteReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param tag delete only the messages with this tag: 0 MT read, 1 MT not read, 2 MO sent, 3 MO not sent
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSDeleteReqAddMessageTag(uint8_t* buf, int bufsize, uint8_t tag);
+/** Appends item 0x12 MessageMode to a Delete request (0x0024).
+ *  Adds 4 bytes: type, length 1, the mode byte.
+ *  @param buf the request, begun by zovQMIWMSDeleteReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param mode the message mode: 0 CDMA, 1 GSM/WCDMA
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSDeleteReqAddMessageMode(uint8_t* buf, int bufsize, uint8_t mode);
+/** Parses a Delete response (0x0024): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0024 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIWMSDeleteResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wms_get_message_protocol GetMessageProtocol (0x0030)
+ *  @ingroup svc_wms
+ *  @brief Asks which message protocol the modem uses.
+ *  @{
+ */
+/** Builds a GetMessageProtocol request (0x0030): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIWMSGetMessageProtocolReq(uint8_t* buf, int bufsize);
+/** Parses a GetMessageProtocol response (0x0030).
+ *  Item 0x01: one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param protocol receives the protocol: 0 CDMA, 1 GSM/WCDMA (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or protocol
+ *          is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0030 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIWMSGetMessageProtocolResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* protocol);
+/** @} */
+/** @defgroup wms_list_messages ListMessages (0x0031)
+ *  @ingroup svc_wms
+ *  @brief Lists the messages of a store, optionally only those with a tag.
+ *  @{
+ */
+/** Builds a ListMessages request (0x0031) with its mandatory item 0x01.
+ *  Item 0x01 (length 1): the store byte.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param memoryStore the memory store: 0 UIM, 1 device memory
+ *  @return 11, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 11.
+ */
 ZOVQMI_API int zovQMIWMSListMessagesReq(uint8_t* buf, int bufsize, uint8_t memoryStore);
+/** Appends item 0x10 RequestedTag to a ListMessages request (0x0031).
+ *  Adds 4 bytes: type, length 1, the tag byte.
+ *  @param buf the request, begun by zovQMIWMSListMessagesReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param tag list only the messages with this tag: 0 MT read, 1 MT not read, 2 MO sent, 3 MO not sent
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSListMessagesReqAddRequestedTag(uint8_t* buf, int bufsize, uint8_t tag);
+/** Appends item 0x11 MessageMode to a ListMessages request (0x0031).
+ *  Adds 4 bytes: type, length 1, the mode byte.
+ *  @param buf the request, begun by zovQMIWMSListMessagesReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param mode the message mode: 0 CDMA, 1 GSM/WCDMA
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSListMessagesReqAddMessageMode(uint8_t* buf, int bufsize, uint8_t mode);
-/* The count is 32 bits wide; indexes and tags are optional and must hold *count entries. */
+/** Parses a ListMessages response (0x0031): the index and tag of each message.
+ *  Item 0x01: a u32 count, then count 5-byte entries {u32 index, tag byte}. The count is 32 bits wide and is not
+ *  compared with the item length; the arrays must hold as many entries as the modem reports.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param count receives the number of messages, native (required)
+ *  @param indexes receives the count indexes, native; may be null
+ *  @param tags receives the count tags (0 MT read, 1 MT not read, 2 MO sent, 3 MO not sent); may be null
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or count is
+ *          null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0031 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIWMSListMessagesResp(const uint8_t* msg, int len, QmiResult* result, uint32_t* count,
                                          uint32_t* indexes, uint8_t* tags);
+/** @} */
+/** @defgroup wms_send_ack SendACK (0x0037)
+ *  @ingroup svc_wms
+ *  @brief Acknowledges a message handed over by the transfer-route item of the EventReport indication.
+ *  @{
+ */
+/** Builds a SendACK request (0x0037) with its mandatory item 0x01.
+ *  Item 0x01 (length 6): the reference as a little-endian u32, then the two bytes in argument order.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param reference the routeReference of the message acknowledged
+ *  @param value1 the first byte of the acknowledgement, passed through
+ *  @param value2 the second byte of the acknowledgement, passed through
+ *  @return 16, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 16.
+ */
 ZOVQMI_API int zovQMIWMSSendACKReq(uint8_t* buf, int bufsize, uint32_t reference, uint8_t value1, uint8_t value2);
+/** Appends item 0x10 3GPP2FailureInformation to a SendACK request (0x0037).
+ *  Adds 5 bytes: type, length 2, the two bytes in argument order.
+ *  @param buf the request, begun by zovQMIWMSSendACKReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param first the first byte (the error class)
+ *  @param second the second byte (the cause code)
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSSendACKReqAdd3GPP2FailureInformation(uint8_t* buf, int bufsize, uint8_t first, uint8_t second);
+/** Appends item 0x11 3GPPFailureInformation to a SendACK request (0x0037).
+ *  Adds 5 bytes: type, length 2, the two bytes in argument order.
+ *  @param buf the request, begun by zovQMIWMSSendACKReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param first the first byte (the RP cause)
+ *  @param second the second byte (the TP cause)
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSSendACKReqAdd3GPPFailureInformation(uint8_t* buf, int bufsize, uint8_t first, uint8_t second);
+/** Parses a SendACK response (0x0037): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0037 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIWMSSendACKResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wms_send_from_mem_store SendFromMemStore (0x0042)
+ *  @ingroup svc_wms
+ *  @brief Sends a message from a store.
+ *  @{
+ */
+/** Builds a SendFromMemStore request (0x0042) with its mandatory item 0x01.
+ *  Item 0x01 (length 6): store byte, index as a little-endian u32, mode byte.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param memoryStore the memory store: 0 UIM, 1 device memory
+ *  @param memoryIndex the index of the message in that store
+ *  @param mode the message mode: 0 CDMA, 1 GSM/WCDMA
+ *  @return 16, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 16.
+ */
 ZOVQMI_API int zovQMIWMSSendFromMemStoreReq(uint8_t* buf, int bufsize, uint8_t memoryStore, uint32_t memoryIndex,
                                             uint8_t mode);
+/** Parses a SendFromMemStore response (0x0042): only the result item 0x02 is read.
+ *  The message reference and the failure details are optional items: read them with the RespGet functions.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0042 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIWMSSendFromMemStoreResp(const uint8_t* msg, int len, QmiResult* result);
+/** Reads the message reference of a SendFromMemStore response.
+ *  Reads item 0x10 MessageID of a SendFromMemStore message (0x0042): a u16.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param messageId receives the message reference given to the sent message, native (required)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg or messageId is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0042 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSSendFromMemStoreRespGetMessageID(const uint8_t* msg, int len, uint16_t* messageId);
+/** Reads the cause code of a failed SendFromMemStore.
+ *  Reads item 0x11 CauseCode of a SendFromMemStore message (0x0042): a u16.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param cause receives the cause code of the failure, native (required)
+ *  @return the value length of item 0x11; ZOVQMI_ERR_ARG: msg or cause is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0042 in msg; ZOVQMI_ERR_NO_TLV: no item 0x11; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ *  @note Deliberate: the failure items sit one type higher than in RawSend (cause code 0x11, error class 0x12,
+ *        GSM/WCDMA cause 0x13), since 0x10 holds the message reference here.
+ */
 ZOVQMI_API int zovQMIWMSSendFromMemStoreRespGetCauseCode(const uint8_t* msg, int len, uint16_t* cause);
+/** Reads the error class of a failed SendFromMemStore.
+ *  Reads item 0x12 ErrorClass of a SendFromMemStore message (0x0042): a u16.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param errorClass receives the error class: 0 temporary, 1 permanent, native (required)
+ *  @return the value length of item 0x12; ZOVQMI_ERR_ARG: msg or errorClass is null; ZOVQMI_ERR_NO_MESSAGE: no
+ *          message 0x0042 in msg; ZOVQMI_ERR_NO_TLV: no item 0x12; ZOVQMI_ERR_MALFORMED: an item or a field read runs
+ *          past the end of msg (nothing written).
+ *  @note Deliberate: the failure items sit one type higher than in RawSend (cause code 0x11, error class 0x12,
+ *        GSM/WCDMA cause 0x13), since 0x10 holds the message reference here.
+ *  @note Deliberate: the error class is read as 16 bits here, while zovQMIWMSRawSendRespGetErrorClass() reads one
+ *        byte.
+ */
 ZOVQMI_API int zovQMIWMSSendFromMemStoreRespGetErrorClass(const uint8_t* msg, int len, uint16_t* errorClass);
+/** Reads the GSM/WCDMA cause of a failed SendFromMemStore.
+ *  Reads item 0x13 GWCauseInformation of a SendFromMemStore message (0x0042): u16 RP cause, TP cause byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param cause receives the RP cause, native (required)
+ *  @param extra receives the TP cause (required)
+ *  @return the value length of item 0x13; ZOVQMI_ERR_ARG: msg, cause or extra is null; ZOVQMI_ERR_NO_MESSAGE: no
+ *          message 0x0042 in msg; ZOVQMI_ERR_NO_TLV: no item 0x13; ZOVQMI_ERR_MALFORMED: an item or a field read runs
+ *          past the end of msg (nothing written).
+ *  @note Deliberate: the failure items sit one type higher than in RawSend (cause code 0x11, error class 0x12,
+ *        GSM/WCDMA cause 0x13), since 0x10 holds the message reference here.
+ */
 ZOVQMI_API int zovQMIWMSSendFromMemStoreRespGetGWCauseInformation(const uint8_t* msg, int len, uint16_t* cause,
                                                                   uint8_t* extra);
+/** @} */
+/** @defgroup wms_set_routes SetRoutes (0x0032)
+ *  @ingroup svc_wms
+ *  @brief Sets where incoming messages of each type and class go.
+ *  @{
+ */
+/** Builds a SetRoutes request (0x0032) with its mandatory item 0x01.
+ *  Item 0x01 (length 2 + 4 x count): the count as a little-endian u16, then the 4-byte routes as they are.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param count number of routes
+ *  @param routes count 4-byte routes {message type, message class, memory store, receipt action}, copied as they are;
+ *         may be null when count is 0
+ *  @return 12 + 4 x count, the message length; ZOVQMI_ERR_ARG: buf is null, bufsize < 12 + 4 x count, or count is
+ *          non-zero and routes is null (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSSetRoutesReq(uint8_t* buf, int bufsize, uint16_t count, const uint8_t* routes);
+/** Appends item 0x10 TransferStatusReport to a SetRoutes request (0x0032).
+ *  Adds 4 bytes: type, length 1, the report byte.
+ *  @param buf the request, begun by zovQMIWMSSetRoutesReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param report 1 to hand status reports to the client instead of storing them, else 0
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSSetRoutesReqAddTransferStatusReport(uint8_t* buf, int bufsize, uint8_t report);
+/** Parses a SetRoutes response (0x0032): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0032 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIWMSSetRoutesResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wms_get_routes GetRoutes (0x0033)
+ *  @ingroup svc_wms
+ *  @brief Asks for the routes of incoming messages.
+ *  @{
+ */
+/** Builds a GetRoutes request (0x0033): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIWMSGetRoutesReq(uint8_t* buf, int bufsize);
+/** Parses a GetRoutes response (0x0033): the routes.
+ *  Item 0x01: a u16 count, then count 4-byte routes. The count is not compared with the item length.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param count receives the number of routes, native (required)
+ *  @param routes receives the 4 x count route bytes as they are {message type, message class, memory store, receipt
+ *         action}; may be null
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or count is
+ *          null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0033 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIWMSGetRoutesResp(const uint8_t* msg, int len, QmiResult* result, uint16_t* count, uint8_t* routes);
+/** Reads the status report setting of a GetRoutes response.
+ *  Reads item 0x10 TransferStatusReport of a GetRoutes message (0x0033): one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param report receives 1 when status reports go to the client, else 0 (required)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg or report is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0033 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSGetRoutesRespGetTransferStatusReport(const uint8_t* msg, int len, uint8_t* report);
+/** @} */
+/** @defgroup wms_get_smsc_address GetSMSCAddress (0x0034)
+ *  @ingroup svc_wms
+ *  @brief Asks for the address of the service centre (SMSC).
+ *  @{
+ */
+/** Builds a GetSMSCAddress request (0x0034): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIWMSGetSMSCAddressReq(uint8_t* buf, int bufsize);
-/* type receives 3 bytes; address (optional) receives *length bytes. */
+/** Parses a GetSMSCAddress response (0x0034): type and address.
+ *  Item 0x01: 3 type bytes, a length byte n, n address bytes. The length is not compared with the item length.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param type receives the 3 address type bytes, ASCII digits such as "145" (required)
+ *  @param length receives the address length n in bytes (required)
+ *  @param address receives the n address bytes, ASCII digits, not terminated; room for up to 255 bytes; may be null
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result, type or
+ *          length is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0034 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIWMSGetSMSCAddressResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* type,
                                            uint8_t* length, uint8_t* address);
-/* A null address with a non-zero length is refused (-1). */
+/** @} */
+/** @defgroup wms_set_smsc_address SetSMSCAddress (0x0035)
+ *  @ingroup svc_wms
+ *  @brief Sets the address of the service centre (SMSC).
+ *  @{
+ */
+/** Builds a SetSMSCAddress request (0x0035) with its mandatory item 0x01.
+ *  Item 0x01 (length length): the address bytes alone, with no length byte inside.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param length number of address bytes
+ *  @param address the address, ASCII digits possibly led by "+", copied as they are; may be null when length is 0
+ *  @return 10 + length, the message length; ZOVQMI_ERR_ARG: buf is null, bufsize < 10 + length, or length is non-zero
+ *          and address is null (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSSetSMSCAddressReq(uint8_t* buf, int bufsize, uint16_t length, const void* address);
+/** Appends item 0x10 SMSCAddressType to a SetSMSCAddress request (0x0035).
+ *  Adds 3 + length bytes: type, length length, the type bytes as they are.
+ *  @param buf the request, begun by zovQMIWMSSetSMSCAddressReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param length number of type bytes, usually 3
+ *  @param type the address type, ASCII digits such as "145"; may be null when length is 0
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null, or length is non-zero and type is null;
+ *          ZOVQMI_ERR_MALFORMED: length is above 1024; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize (nothing
+ *          written).
+ */
 ZOVQMI_API int zovQMIWMSSetSMSCAddressReqAddSMSCAddressType(uint8_t* buf, int bufsize, uint16_t length,
                                                             const void* type);
+/** Parses a SetSMSCAddress response (0x0035): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0035 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIWMSSetSMSCAddressResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wms_get_store_max_size GetStoreMaxSize (0x0036)
+ *  @ingroup svc_wms
+ *  @brief Asks how many messages a store holds and how many more it can take.
+ *  @{
+ */
+/** Builds a GetStoreMaxSize request (0x0036) with its mandatory item 0x01.
+ *  Item 0x01 (length 1): the store byte.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param memoryStore the memory store: 0 UIM, 1 device memory
+ *  @return 11, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 11.
+ */
 ZOVQMI_API int zovQMIWMSGetStoreMaxSizeReq(uint8_t* buf, int bufsize, uint8_t memoryStore);
+/** Appends item 0x10 MessageMode to a GetStoreMaxSize request (0x0036).
+ *  Adds 4 bytes: type, length 1, the mode byte.
+ *  @param buf the request, begun by zovQMIWMSGetStoreMaxSizeReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param mode the message mode: 0 CDMA, 1 GSM/WCDMA
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize
+ *          (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSGetStoreMaxSizeReqAddMessageMode(uint8_t* buf, int bufsize, uint8_t mode);
+/** Parses a GetStoreMaxSize response (0x0036): the capacity of the store.
+ *  Item 0x01: a u32.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param maxSize receives the number of messages the store holds at most, native (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or maxSize
+ *          is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0036 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIWMSGetStoreMaxSizeResp(const uint8_t* msg, int len, QmiResult* result, uint32_t* maxSize);
+/** Reads the free room of the store from a GetStoreMaxSize response.
+ *  Reads item 0x10 MemoryAvailable of a GetStoreMaxSize message (0x0036): a u32.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param available receives the number of messages the store can still take, native (required)
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg or available is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x0036 in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSGetStoreMaxSizeRespGetMemoryAvailable(const uint8_t* msg, int len, uint32_t* available);
+/** @} */
+/** @defgroup wms_set_retry_period SetRetryPeriod (0x0038)
+ *  @ingroup svc_wms
+ *  @brief Sets how long the modem keeps retrying a failed send.
+ *  @{
+ */
+/** Builds a SetRetryPeriod request (0x0038) with its mandatory item 0x01.
+ *  Item 0x01 (length 4): the value as a little-endian u32.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param period the retry period in seconds
+ *  @return 14, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 14.
+ */
 ZOVQMI_API int zovQMIWMSSetRetryPeriodReq(uint8_t* buf, int bufsize, uint32_t period);
+/** Parses a SetRetryPeriod response (0x0038): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0038 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIWMSSetRetryPeriodResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wms_set_retry_interval SetRetryInterval (0x0039)
+ *  @ingroup svc_wms
+ *  @brief Sets the pause between two tries of a failed send.
+ *  @{
+ */
+/** Builds a SetRetryInterval request (0x0039) with its mandatory item 0x01.
+ *  Item 0x01 (length 4): the value as a little-endian u32.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param interval the retry interval in seconds
+ *  @return 14, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 14.
+ */
 ZOVQMI_API int zovQMIWMSSetRetryIntervalReq(uint8_t* buf, int bufsize, uint32_t interval);
+/** Parses a SetRetryInterval response (0x0039): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0039 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIWMSSetRetryIntervalResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wms_set_dc_disconnect_timer SetDCDisconnectTimer (0x003A)
+ *  @ingroup svc_wms
+ *  @brief Sets when an idle dedicated channel (CDMA) is released.
+ *  @{
+ */
+/** Builds a SetDCDisconnectTimer request (0x003A) with its mandatory item 0x01.
+ *  Item 0x01 (length 4): the value as a little-endian u32.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param timer the idle time in seconds after which the dedicated channel is released; 0 disables the timer
+ *  @return 14, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 14.
+ */
 ZOVQMI_API int zovQMIWMSSetDCDisconnectTimerReq(uint8_t* buf, int bufsize, uint32_t timer);
+/** Parses a SetDCDisconnectTimer response (0x003A): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x003A in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIWMSSetDCDisconnectTimerResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wms_set_memory_status SetMemoryStatus (0x003B)
+ *  @ingroup svc_wms
+ *  @brief Tells the network whether the client has room for new messages.
+ *  @{
+ */
+/** Builds a SetMemoryStatus request (0x003B) with its mandatory item 0x01.
+ *  Item 0x01 (length 1): the value byte (message byte 10).
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param status the memory status: 1 room available, 0 full
+ *  @return 11, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 11.
+ */
 ZOVQMI_API int zovQMIWMSSetMemoryStatusReq(uint8_t* buf, int bufsize, uint8_t status);
+/** Parses a SetMemoryStatus response (0x003B): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x003B in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIWMSSetMemoryStatusResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wms_set_broadcast_activation SetBroadcastActivation (0x003C)
+ *  @ingroup svc_wms
+ *  @brief Switches the reception of broadcast messages on or off.
+ *  @{
+ */
+/** Builds a SetBroadcastActivation request (0x003C) with its mandatory item 0x01.
+ *  Item 0x01 (length 2): the two bytes in argument order.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param first the message mode: 0 CDMA, 1 GSM/WCDMA
+ *  @param second 1 to activate broadcast reception, 0 to deactivate it
+ *  @return 12, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 12.
+ */
 ZOVQMI_API int zovQMIWMSSetBroadcastActivationReq(uint8_t* buf, int bufsize, uint8_t first, uint8_t second);
+/** Parses a SetBroadcastActivation response (0x003C): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x003C in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIWMSSetBroadcastActivationResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wms_set_broadcast_config SetBroadcastConfig (0x003D)
+ *  @ingroup svc_wms
+ *  @brief Chooses which broadcast messages are received.
+ *  @{
+ */
+/** Builds a SetBroadcastConfig request (0x003D) with its mandatory item 0x01.
+ *  Item 0x01 (length 1): the mode byte. Append the entries with the ReqAdd functions.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param mode the message mode: 0 CDMA, 1 GSM/WCDMA
+ *  @return 11, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 11.
+ */
 ZOVQMI_API int zovQMIWMSSetBroadcastConfigReq(uint8_t* buf, int bufsize, uint8_t mode);
+/** Appends item 0x10 3GPPBroadcastConfigurationInformation to a SetBroadcastConfig request (0x003D).
+ *  Adds 5 + 5 x count bytes: type, length 2 + 5 x count, u16 count, then per entry first3GPP, second3GPP and
+ *  selection as 5 bytes, little-endian.
+ *  @param buf the request, begun by zovQMIWMSSetBroadcastConfigReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param count number of entries, at most 204 (the item value holds 1024 bytes)
+ *  @param entries count WMSBroadcastConfigEntry, 9 bytes apart; only first3GPP, second3GPP (first and last message id
+ *         of a range) and selection are read (the GSM/WCDMA fields); may be null when count is 0
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null, or count is non-zero and entries is null;
+ *          ZOVQMI_ERR_MALFORMED: count is above 204; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize (nothing
+ *          written).
+ */
 ZOVQMI_API int zovQMIWMSSetBroadcastConfigReqAdd3GPPBroadcastConfigurationInformation(uint8_t* buf, int bufsize,
                                                                                       uint16_t count,
                                                                                       const WMSBroadcastConfigEntry* entries);
+/** Appends item 0x11 3GPP2BroadcastConfigurationInformation to a SetBroadcastConfig request (0x003D).
+ *  Adds 5 + 5 x count bytes: type, length 2 + 5 x count, u16 count, then per entry first3GPP2, second3GPP2 and
+ *  selection as 5 bytes, little-endian.
+ *  @param buf the request, begun by zovQMIWMSSetBroadcastConfigReq()
+ *  @param bufsize capacity of buf in bytes
+ *  @param count number of entries, at most 204 (the item value holds 1024 bytes)
+ *  @param entries count WMSBroadcastConfigEntry, 9 bytes apart; only first3GPP2, second3GPP2 (service category and
+ *         language) and selection are read (the CDMA fields); may be null when count is 0
+ *  @return the new message length; ZOVQMI_ERR_ARG: buf is null, or count is non-zero and entries is null;
+ *          ZOVQMI_ERR_MALFORMED: count is above 204; ZOVQMI_ERR_NO_ROOM: the item does not fit in bufsize (nothing
+ *          written).
+ */
 ZOVQMI_API int zovQMIWMSSetBroadcastConfigReqAdd3GPP2BroadcastConfigurationInformation(uint8_t* buf, int bufsize,
                                                                                        uint16_t count,
                                                                                        const WMSBroadcastConfigEntry* entries);
+/** Parses a SetBroadcastConfig response (0x003D): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x003D in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIWMSSetBroadcastConfigResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wms_get_broadcast_config GetBroadcastConfig (0x003E)
+ *  @ingroup svc_wms
+ *  @brief Asks which broadcast messages are received.
+ *  @{
+ */
+/** Builds a GetBroadcastConfig request (0x003E) with its mandatory item 0x01.
+ *  Item 0x01 (length 1): the mode byte.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param mode the message mode: 0 CDMA, 1 GSM/WCDMA
+ *  @return 11, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 11.
+ */
 ZOVQMI_API int zovQMIWMSGetBroadcastConfigReq(uint8_t* buf, int bufsize, uint8_t mode);
+/** Parses a GetBroadcastConfig response (0x003E): only the result item 0x02 is read.
+ *  The entries are optional items: read them with the RespGet functions.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x003E in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIWMSGetBroadcastConfigResp(const uint8_t* msg, int len, QmiResult* result);
+/** Reads the GSM/WCDMA broadcast entries of a GetBroadcastConfig response.
+ *  Reads item 0x10 3GPPBroadcastConfigurationInformation of a GetBroadcastConfig message (0x003E): u16 activation,
+ *  u16 count, then count 5-byte entries from value byte 4.
+ *  The count is not compared with the item length.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param activation receives the low byte of the activation word: 1 broadcast reception active, 0 not (required)
+ *  @param count receives the number of entries, native (required)
+ *  @param entries array of count WMSBroadcastConfigEntry; only first3GPP and second3GPP and selection of each are
+ *         written, the other pair is left alone; may be null
+ *  @return the value length of item 0x10; ZOVQMI_ERR_ARG: msg, activation or count is null; ZOVQMI_ERR_NO_MESSAGE: no
+ *          message 0x003E in msg; ZOVQMI_ERR_NO_TLV: no item 0x10; ZOVQMI_ERR_MALFORMED: an item or a field read runs
+ *          past the end of msg (nothing written).
+ *  @note Deliberate: the entries start at value byte 4, two bytes further than in the item the set function writes,
+ *        because a 16-bit activation word leads; only its low byte is delivered.
+ */
 ZOVQMI_API int zovQMIWMSGetBroadcastConfigRespGet3GPPBroadcastConfigurationInformation(const uint8_t* msg, int len,
                                                                                        uint8_t* activation,
                                                                                        uint16_t* count,
                                                                                        WMSBroadcastConfigEntry* entries);
+/** Reads the CDMA broadcast entries of a GetBroadcastConfig response.
+ *  Reads item 0x11 3GPP2BroadcastConfigurationInformation of a GetBroadcastConfig message (0x003E): u16 activation,
+ *  u16 count, then count 5-byte entries from value byte 4.
+ *  The count is not compared with the item length.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param activation receives the low byte of the activation word: 1 broadcast reception active, 0 not (required)
+ *  @param count receives the number of entries, native (required)
+ *  @param entries array of count WMSBroadcastConfigEntry; only first3GPP2 and second3GPP2 and selection of each are
+ *         written, the other pair is left alone; may be null
+ *  @return the value length of item 0x11; ZOVQMI_ERR_ARG: msg, activation or count is null; ZOVQMI_ERR_NO_MESSAGE: no
+ *          message 0x003E in msg; ZOVQMI_ERR_NO_TLV: no item 0x11; ZOVQMI_ERR_MALFORMED: an item or a field read runs
+ *          past the end of msg (nothing written).
+ *  @note Deliberate: the entries start at value byte 4, two bytes further than in the item the set function writes,
+ *        because a 16-bit activation word leads; only its low byte is delivered.
+ */
 ZOVQMI_API int zovQMIWMSGetBroadcastConfigRespGet3GPP2BroadcastConfigurationInformation(const uint8_t* msg, int len,
                                                                                         uint8_t* activation,
                                                                                         uint16_t* count,
                                                                                         WMSBroadcastConfigEntry* entries);
+/** @} */
+/** @defgroup wms_memory_full MemoryFull indication (0x003F)
+ *  @ingroup svc_wms
+ *  @brief Tells that a message store is full.
+ *  @{
+ */
+/** Parses a MemoryFull indication (0x003F).
+ *  Item 0x01: two bytes, stored in order.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param first receives the memory store that is full: 0 UIM, 1 device memory (required)
+ *  @param second receives the message mode: 0 CDMA, 1 GSM/WCDMA (required)
+ *  @return the TLV-area length; ZOVQMI_ERR_ARG: msg, first or second is null; ZOVQMI_ERR_NO_MESSAGE: no message
+ *          0x003F in msg; ZOVQMI_ERR_NO_TLV: no item 0x01; ZOVQMI_ERR_MALFORMED: an item or a field read runs past
+ *          the end of msg (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSMemoryFullIND(const uint8_t* msg, int len, uint8_t* first, uint8_t* second);
+/** @} */
+/** @defgroup wms_get_domain_pref GetDomainPref (0x0040)
+ *  @ingroup svc_wms
+ *  @brief Asks over which domain messages are sent.
+ *  @{
+ */
+/** Builds a GetDomainPref request (0x0040): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIWMSGetDomainPrefReq(uint8_t* buf, int bufsize);
+/** Parses a GetDomainPref response (0x0040).
+ *  Item 0x01: one byte.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param preference receives the domain preference: 0 circuit switched preferred, 1 packet switched preferred, 2
+ *         circuit switched only, 3 packet switched only (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or
+ *          preference is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0040 in msg; ZOVQMI_ERR_NO_TLV: no result item
+ *          (result untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item
+ *          or a field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIWMSGetDomainPrefResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* preference);
+/** @} */
+/** @defgroup wms_set_domain_pref SetDomainPref (0x0041)
+ *  @ingroup svc_wms
+ *  @brief Chooses over which domain messages are sent.
+ *  @{
+ */
+/** Builds a SetDomainPref request (0x0041) with its mandatory item 0x01.
+ *  Item 0x01 (length 1): the value byte (message byte 10).
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param preference the domain preference: 0 circuit switched preferred, 1 packet switched preferred, 2 circuit
+ *         switched only, 3 packet switched only
+ *  @return 11, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 11.
+ */
 ZOVQMI_API int zovQMIWMSSetDomainPrefReq(uint8_t* buf, int bufsize, uint8_t preference);
+/** Parses a SetDomainPref response (0x0041): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0041 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIWMSSetDomainPrefResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup wms_get_message_waiting GetMessageWaiting (0x0043)
+ *  @ingroup svc_wms
+ *  @brief Asks for the message waiting indications (voice mail and others).
+ *  @{
+ */
+/** Builds a GetMessageWaiting request (0x0043): the 7-byte header, no item.
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @return 7, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 7.
+ */
 ZOVQMI_API int zovQMIWMSGetMessageWaitingReq(uint8_t* buf, int bufsize);
+/** Parses a GetMessageWaiting response (0x0043).
+ *  Item 0x01: a count byte, then count 3-byte entries whose bytes are spread over the three arrays. The count is not
+ *  compared with the item length.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @param count receives the number of entries (required)
+ *  @param first receives byte 0 of each entry, the kind of message waiting (0 voice mail, 1 fax, 2 e-mail, 3 other, 4
+ *         video mail); may be null
+ *  @param second receives byte 1 of each entry, 1 when the indication is active, else 0; may be null
+ *  @param third receives byte 2 of each entry, the number of messages waiting; may be null
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg, result or count is
+ *          null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0043 in msg; ZOVQMI_ERR_NO_TLV: no result item (result
+ *          untouched); ZOVQMI_ERR_NO_MANDATORY: no item 0x01 (result filled); ZOVQMI_ERR_MALFORMED: an item or a
+ *          field read runs past the end of msg (result may be filled, the other outputs are untouched).
+ */
 ZOVQMI_API int zovQMIWMSGetMessageWaitingResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
                                               uint8_t* first, uint8_t* second, uint8_t* third);
+/** @} */
+/** @defgroup wms_message_waiting MessageWaiting indication (0x0044)
+ *  @ingroup svc_wms
+ *  @brief Tells of a change of the message waiting indications.
+ *  @{
+ */
+/** Parses a MessageWaiting indication (0x0044).
+ *  Item 0x01 as in the GetMessageWaiting response.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param count receives the number of entries (required)
+ *  @param first receives byte 0 of each entry, the kind of message waiting (0 voice mail, 1 fax, 2 e-mail, 3 other, 4
+ *         video mail); may be null
+ *  @param second receives byte 1 of each entry, 1 when the indication is active, else 0; may be null
+ *  @param third receives byte 2 of each entry, the number of messages waiting; may be null
+ *  @return the TLV-area length; ZOVQMI_ERR_ARG: msg or count is null; ZOVQMI_ERR_NO_MESSAGE: no message 0x0044 in
+ *          msg; ZOVQMI_ERR_NO_TLV: no item 0x01; ZOVQMI_ERR_MALFORMED: an item or a field read runs past the end of
+ *          msg (nothing written).
+ */
 ZOVQMI_API int zovQMIWMSMessageWaitingIND(const uint8_t* msg, int len, uint8_t* count, uint8_t* first, uint8_t* second,
                                           uint8_t* third);
+/** @} */
+/** @defgroup wms_set_primary_client SetPrimaryClient (0x0045)
+ *  @ingroup svc_wms
+ *  @brief Makes this client the primary messaging client, or gives that role up.
+ *  @{
+ */
+/** Builds a SetPrimaryClient request (0x0045) with its mandatory item 0x01.
+ *  Item 0x01 (length 1): the value byte (message byte 10).
+ *  @param buf request buffer; the message is written from its first byte
+ *  @param bufsize capacity of buf in bytes
+ *  @param primary 1 to become the primary client, 0 to give the role up
+ *  @return 11, the message length; ZOVQMI_ERR_ARG: buf is null or bufsize < 11.
+ */
 ZOVQMI_API int zovQMIWMSSetPrimaryClientReq(uint8_t* buf, int bufsize, uint8_t primary);
+/** Parses a SetPrimaryClient response (0x0045): only the result item 0x02 is read.
+ *  @param msg received message, QMUX header already stripped
+ *  @param len length of msg in bytes
+ *  @param result receives the result code and error code of item 0x02 (required)
+ *  @return the TLV-area length, even when the result code reports a failure; ZOVQMI_ERR_ARG: msg or result is null;
+ *          ZOVQMI_ERR_NO_MESSAGE: no message 0x0045 in msg; ZOVQMI_ERR_NO_TLV: no result item (result untouched);
+ *          ZOVQMI_ERR_MALFORMED: an item runs past the end of msg.
+ */
 ZOVQMI_API int zovQMIWMSSetPrimaryClientResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 /* ------------------------------------------------------------ end WMS -- */
 
 
