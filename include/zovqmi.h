@@ -1034,433 +1034,1972 @@ ZOVQMI_API int zovQMIWMSSetPrimaryClientResp(const uint8_t* msg, int len, QmiRes
 
 
 /* ---------------------------------------------------------------- PDS -- */
+/** @defgroup svc_pds PDS: position determination service (service 6)
+ *  @brief The GPS engine: service state, position sessions, the event report, engine configuration and the
+ *  injection of time, position, WiFi, XTRA and file data.
+ */
 
 #pragma pack(push, 1)
 
-/* One entry of the assistance-data request lists: its length byte (high
- * byte always 0) and a caller buffer for the bytes (null: not copied).
- * 6 bytes on 32-bit hosts. */
+/**
+ * One entry of an assistance-data request list of the EventReport indication (items 0x14 and 0x15).
+ * 6 bytes on 32-bit hosts.  On the wire an entry is a length byte followed by that many bytes.
+ * @ingroup pds_event_report
+ */
 typedef struct LengthPrefixedEntry {
-    uint16_t length;
-    uint8_t* data;
+    uint16_t length; /**< Entry length in bytes, stored as little-endian bytes; only the low byte is ever set, the
+                          high byte is written 0. */
+    uint8_t* data; /**< Caller buffer of at least @c length bytes that receives the entry's bytes; null: the bytes are
+                        not copied. */
 } LengthPrefixedEntry;
 
-/* One satellite of the event report, as on the wire (18 bytes). */
+/**
+ * One satellite of the EventReport item 0x17, copied as it is on the wire (18 bytes).
+ * Multi-byte fields hold little-endian bytes on every host; the values are the modem's, passed through unchanged.
+ * @ingroup pds_event_report
+ */
 typedef struct SatelliteInformationEntry {
-    uint32_t validMask;
-    uint8_t system;
-    uint8_t prn;
-    uint8_t health;
-    uint8_t processStatus;
-    uint8_t ephemerisState;
-    uint8_t almanacState;
-    uint32_t elevation;
-    uint16_t azimuth;
-    uint16_t signalStrength;
+    uint32_t validMask; /**< Which of the following fields are valid (u32). */
+    uint8_t system; /**< Satellite system. */
+    uint8_t prn; /**< Satellite PRN number. */
+    uint8_t health; /**< Health status. */
+    uint8_t processStatus; /**< Processing status. */
+    uint8_t ephemerisState; /**< Ephemeris state. */
+    uint8_t almanacState; /**< Almanac state. */
+    uint32_t elevation; /**< Elevation (u32). */
+    uint16_t azimuth; /**< Azimuth (u16). */
+    uint16_t signalStrength; /**< Signal strength (u16). */
 } SatelliteInformationEntry;
 
-/* A parsed position fix, as on the wire (105 bytes).  The 64-bit fields hold
- * raw bits (latitude and longitude are IEEE doubles at the modem). */
+/**
+ * A parsed position fix, the value of EventReport item 0x13, copied as it is on the wire (105 bytes).
+ * Multi-byte fields hold little-endian bytes on every host.  The 64-bit fields are raw bits (two 32-bit halves,
+ * low half first); latitude and longitude are IEEE doubles at the modem.  The values are the modem's, passed
+ * through unchanged.
+ * @ingroup pds_event_report
+ */
 typedef struct ParsedPositionData {
-    uint32_t validMask;
-    uint16_t year;
-    uint8_t month;
-    uint8_t dayOfWeek;
-    uint8_t dayOfMonth;
-    uint8_t hour;
-    uint8_t minute;
-    uint8_t second;
-    uint16_t milliseconds;
-    uint8_t leapSeconds;
-    uint64_t utcTimestamp;
-    uint32_t timeUncertainty;
-    uint64_t latitude;
-    uint64_t longitude;
-    uint32_t altitudeFromEllipsoid;
-    uint32_t altitudeFromSeaLevel;
-    uint32_t horizontalSpeed;
-    uint32_t verticalSpeed;
-    uint32_t heading;
-    uint32_t horizontalUncertaintyCircular;
-    uint32_t horizontalUncertaintyMajor;
-    uint32_t horizontalUncertaintyMinor;
-    uint32_t horizontalUncertaintyAngle;
-    uint32_t verticalUncertainty;
-    uint32_t horizontalVelocityUncertainty;
-    uint32_t verticalVelocityUncertainty;
-    uint8_t horizontalConfidence;
-    uint32_t positionDOP;
-    uint32_t horizontalDOP;
-    uint32_t verticalDOP;
-    uint8_t positionSource;
+    uint32_t validMask; /**< Which of the following fields are valid (u32). */
+    uint16_t year; /**< UTC year (u16). */
+    uint8_t month; /**< UTC month. */
+    uint8_t dayOfWeek; /**< Day of the week. */
+    uint8_t dayOfMonth; /**< Day of the month. */
+    uint8_t hour; /**< UTC hour. */
+    uint8_t minute; /**< UTC minute. */
+    uint8_t second; /**< UTC second. */
+    uint16_t milliseconds; /**< Milliseconds (u16). */
+    uint8_t leapSeconds; /**< Leap seconds. */
+    uint64_t utcTimestamp; /**< UTC time stamp (64-bit raw bits). */
+    uint32_t timeUncertainty; /**< Time uncertainty (u32). */
+    uint64_t latitude; /**< Latitude (64-bit raw bits of a double). */
+    uint64_t longitude; /**< Longitude (64-bit raw bits of a double). */
+    uint32_t altitudeFromEllipsoid; /**< Altitude above the ellipsoid (u32). */
+    uint32_t altitudeFromSeaLevel; /**< Altitude above sea level (u32). */
+    uint32_t horizontalSpeed; /**< Horizontal speed (u32). */
+    uint32_t verticalSpeed; /**< Vertical speed (u32). */
+    uint32_t heading; /**< Heading (u32). */
+    uint32_t horizontalUncertaintyCircular; /**< Circular horizontal uncertainty (u32). */
+    uint32_t horizontalUncertaintyMajor; /**< Horizontal uncertainty, major axis (u32). */
+    uint32_t horizontalUncertaintyMinor; /**< Horizontal uncertainty, minor axis (u32). */
+    uint32_t horizontalUncertaintyAngle; /**< Angle of the horizontal uncertainty ellipse (u32). */
+    uint32_t verticalUncertainty; /**< Vertical uncertainty (u32). */
+    uint32_t horizontalVelocityUncertainty; /**< Horizontal velocity uncertainty (u32). */
+    uint32_t verticalVelocityUncertainty; /**< Vertical velocity uncertainty (u32). */
+    uint8_t horizontalConfidence; /**< Horizontal confidence. */
+    uint32_t positionDOP; /**< Position dilution of precision (u32). */
+    uint32_t horizontalDOP; /**< Horizontal dilution of precision (u32). */
+    uint32_t verticalDOP; /**< Vertical dilution of precision (u32). */
+    uint8_t positionSource; /**< Source of the position. */
 } ParsedPositionData;
 
-/* The GPS engine's state, as on the wire (98 bytes; 64-bit fields raw bits). */
+/**
+ * The GPS engine's state, the value of GetGPSStateInfo item 0x10, copied as it is on the wire (98 bytes).
+ * Multi-byte fields hold little-endian bytes on every host; the 64-bit fields are raw bits (two 32-bit halves, low
+ * half first).  The values are the modem's, passed through unchanged.
+ * @ingroup pds_get_gps_state_info
+ */
 typedef struct GPSStateInformation {
-    uint8_t engineState;
-    uint32_t validMask;
-    uint64_t latitude;
-    uint64_t longitude;
-    uint32_t horizontalUncertainty;
-    uint32_t altitude;
-    uint32_t verticalUncertainty;
-    uint32_t timeOfWeek;
-    uint16_t gpsWeek;
-    uint32_t timeUncertainty;
-    uint8_t ionosphereValid;
-    uint32_t gpsEphemerisMask;
-    uint32_t gpsAlmanacMask;
-    uint32_t gpsHealthMask;
-    uint32_t gpsVisibleMask;
-    uint32_t glonassEphemerisMask;
-    uint32_t glonassAlmanacMask;
-    uint32_t glonassHealthMask;
-    uint32_t glonassVisibleMask;
-    uint32_t sbasEphemerisMask;
-    uint32_t sbasAlmanacMask;
-    uint32_t sbasHealthMask;
-    uint32_t sbasVisibleMask;
-    uint16_t xtraStartWeek;
-    uint16_t xtraStartMinutes;
-    uint16_t xtraValidHours;
+    uint8_t engineState; /**< Engine state. */
+    uint32_t validMask; /**< Which of the following fields are valid (u32). */
+    uint64_t latitude; /**< Latitude (64-bit raw bits). */
+    uint64_t longitude; /**< Longitude (64-bit raw bits). */
+    uint32_t horizontalUncertainty; /**< Horizontal uncertainty (u32). */
+    uint32_t altitude; /**< Altitude (u32). */
+    uint32_t verticalUncertainty; /**< Vertical uncertainty (u32). */
+    uint32_t timeOfWeek; /**< GPS time of week (u32). */
+    uint16_t gpsWeek; /**< GPS week (u16). */
+    uint32_t timeUncertainty; /**< Time uncertainty (u32). */
+    uint8_t ionosphereValid; /**< Nonzero when the ionosphere model is valid. */
+    uint32_t gpsEphemerisMask; /**< GPS satellites with ephemeris (bit mask, u32). */
+    uint32_t gpsAlmanacMask; /**< GPS satellites with almanac (bit mask, u32). */
+    uint32_t gpsHealthMask; /**< GPS satellite health (bit mask, u32). */
+    uint32_t gpsVisibleMask; /**< GPS satellites in view (bit mask, u32). */
+    uint32_t glonassEphemerisMask; /**< GLONASS satellites with ephemeris (bit mask, u32). */
+    uint32_t glonassAlmanacMask; /**< GLONASS satellites with almanac (bit mask, u32). */
+    uint32_t glonassHealthMask; /**< GLONASS satellite health (bit mask, u32). */
+    uint32_t glonassVisibleMask; /**< GLONASS satellites in view (bit mask, u32). */
+    uint32_t sbasEphemerisMask; /**< SBAS satellites with ephemeris (bit mask, u32). */
+    uint32_t sbasAlmanacMask; /**< SBAS satellites with almanac (bit mask, u32). */
+    uint32_t sbasHealthMask; /**< SBAS satellite health (bit mask, u32). */
+    uint32_t sbasVisibleMask; /**< SBAS satellites in view (bit mask, u32). */
+    uint16_t xtraStartWeek; /**< GPS week at which the XTRA data starts (u16). */
+    uint16_t xtraStartMinutes; /**< Minutes into that week at which the XTRA data starts (u16). */
+    uint16_t xtraValidHours; /**< Hours for which the XTRA data is valid (u16). */
 } GPSStateInformation;
 
-/* Network-initiated prompts.  On the wire every length byte is followed
- * directly by that many bytes.  Inline blocks live in the record; pointer
- * blocks are caller buffers of up to 255 bytes (null: not copied when read;
- * refused when written with a non-zero length). */
 
-/* 21 bytes on 32-bit hosts; wire value 17 + dataLength bytes. */
+/**
+ * A network-initiated VX prompt (EventReport item 0x18) or its answer (SendNIResponse item 0x10).
+ * 21 bytes on 32-bit hosts.  On the wire the fields up to @c dataLength follow in order, then @c dataLength data
+ * bytes: 17 + @c dataLength bytes.  Multi-byte fields hold little-endian bytes on every host.
+ * @ingroup svc_pds
+ */
 typedef struct NetworkInitiatedPromptVX {
-    uint32_t notificationType;
-    uint8_t positionMode;
-    uint8_t requesterIdEncoding;
-    uint32_t sessionId;
-    uint32_t timeout;
-    uint8_t positionQoSIncluded;
-    uint8_t positionQoS;
-    uint8_t dataLength;
-    uint8_t* data;
+    uint32_t notificationType; /**< Notification type (u32). */
+    uint8_t positionMode; /**< Position mode. */
+    uint8_t requesterIdEncoding; /**< Encoding of the requester id in @c data. */
+    uint32_t sessionId; /**< Session id (u32). */
+    uint32_t timeout; /**< Time-out (u32). */
+    uint8_t positionQoSIncluded; /**< Nonzero when @c positionQoS is valid. */
+    uint8_t positionQoS; /**< Position quality of service. */
+    uint8_t dataLength; /**< Number of bytes in @c data (0-255). */
+    uint8_t* data; /**< Caller buffer of up to 255 bytes.  Read: receives the bytes when non-null (null: not copied).
+                        Written: must be set when @c dataLength is nonzero. */
 } NetworkInitiatedPromptVX;
 
-/* 319 bytes on 32-bit hosts; wire value 56 + length1 + length2 + length3. */
+/**
+ * A network-initiated SUPL prompt (EventReport item 0x19) or its answer (SendNIResponse item 0x11).
+ * 319 bytes on 32-bit hosts.  On the wire the fields follow in order and each length byte is followed directly
+ * by that many bytes: 56 + @c length1 + @c length2 + @c length3 bytes.  Multi-byte fields hold little-endian bytes
+ * on every host; @c sessionId is raw 64-bit.
+ * @ingroup svc_pds
+ */
 typedef struct NetworkInitiatedPromptSUPL {
-    uint32_t notificationType;
-    uint8_t validMask;
-    uint64_t sessionId;
-    uint8_t serverAddressType;
-    uint32_t serverIPv4Address;
-    uint32_t serverIPv4Port;
-    uint32_t requesterIdMask;
-    uint32_t clientNameMask;
-    uint8_t serverIPv6[16];
-    uint8_t length1;
-    uint8_t block1[255];
-    uint8_t hash;
-    uint8_t positionMethod;
-    uint8_t length2;
-    uint8_t* block2;
-    uint8_t clientNameEncoding;
-    uint8_t length3;
-    uint8_t* block3;
-    uint8_t qosHorizontalAccuracy;
-    uint8_t qosVerticalAccuracy;
-    uint8_t qosMaxAge;
-    uint8_t qosDelay;
+    uint32_t notificationType; /**< Notification type (u32). */
+    uint8_t validMask; /**< Which of the optional fields are valid. */
+    uint64_t sessionId; /**< SUPL session id (64-bit raw bits). */
+    uint8_t serverAddressType; /**< Type of the SUPL server address. */
+    uint32_t serverIPv4Address; /**< Server IPv4 address (u32). */
+    uint32_t serverIPv4Port; /**< Server IPv4 port (u32). */
+    uint32_t requesterIdMask; /**< Requester id mask (u32). */
+    uint32_t clientNameMask; /**< Client name mask (u32). */
+    uint8_t serverIPv6[16]; /**< Server IPv6 address, 16 bytes as they are. */
+    uint8_t length1; /**< Number of bytes in @c block1 (0-255). */
+    uint8_t block1[255]; /**< Block 1, held in the record (up to 255 bytes). */
+    uint8_t hash; /**< Hash byte. */
+    uint8_t positionMethod; /**< Position method. */
+    uint8_t length2; /**< Number of bytes in @c block2 (0-255). */
+    uint8_t* block2; /**< Caller buffer for block 2 (up to 255 bytes); null when read: not copied; must be set when
+                          written with a nonzero @c length2. */
+    uint8_t clientNameEncoding; /**< Encoding of the client name in @c block3. */
+    uint8_t length3; /**< Number of bytes in @c block3 (0-255). */
+    uint8_t* block3; /**< Caller buffer for block 3 (up to 255 bytes); null when read: not copied; must be set when
+                          written with a nonzero @c length3. */
+    uint8_t qosHorizontalAccuracy; /**< Requested horizontal accuracy. */
+    uint8_t qosVerticalAccuracy; /**< Requested vertical accuracy. */
+    uint8_t qosMaxAge; /**< Requested maximum age of the fix. */
+    uint8_t qosDelay; /**< Requested delay. */
 } NetworkInitiatedPromptSUPL;
 
-/* 282 bytes on 32-bit hosts; wire value 15 + length1 + ... + length4. */
+/**
+ * A network-initiated UMTS control-plane prompt (EventReport item 0x1A) or its answer (SendNIResponse, item 0x11).
+ * 282 bytes on 32-bit hosts.  On the wire the fields follow in order and each length byte is followed directly by
+ * that many bytes: 15 + @c length1 + @c length2 + @c length3 + @c length4 bytes.  @c notificationType holds
+ * little-endian bytes on every host.
+ * @ingroup svc_pds
+ */
 typedef struct NetworkInitiatedPromptUMTSCP {
-    uint32_t notificationType;
-    uint8_t invokeId;
-    uint8_t validMask;
-    uint8_t notificationTextEncoding;
-    uint8_t length1;
-    uint8_t* block1;
-    uint8_t length2;
-    uint8_t block2[255];
-    uint8_t locationType;
-    uint8_t externalAddressType;
-    uint8_t length3;
-    uint8_t* block3;
-    uint8_t requesterIdEncoding;
-    uint8_t length4;
-    uint8_t* block4;
-    uint8_t codewordEncoding;
+    uint32_t notificationType; /**< Notification type (u32). */
+    uint8_t invokeId; /**< Invoke id. */
+    uint8_t validMask; /**< Which of the optional fields are valid. */
+    uint8_t notificationTextEncoding; /**< Encoding of the notification text in @c block1. */
+    uint8_t length1; /**< Number of bytes in @c block1 (0-255). */
+    uint8_t* block1; /**< Caller buffer for block 1 (up to 255 bytes); null when read: not copied; must be set when
+                          written with a nonzero @c length1. */
+    uint8_t length2; /**< Number of bytes in @c block2 (0-255). */
+    uint8_t block2[255]; /**< Block 2, held in the record (up to 255 bytes). */
+    uint8_t locationType; /**< Location type. */
+    uint8_t externalAddressType; /**< Type of the external client address in @c block2. */
+    uint8_t length3; /**< Number of bytes in @c block3 (0-255). */
+    uint8_t* block3; /**< Caller buffer for block 3 (up to 255 bytes); null when read: not copied; must be set when
+                          written with a nonzero @c length3. */
+    uint8_t requesterIdEncoding; /**< Encoding of the requester id in @c block4. */
+    uint8_t length4; /**< Number of bytes in @c block4 (0-255). */
+    uint8_t* block4; /**< Caller buffer for block 4 (up to 255 bytes); null when read: not copied; must be set when
+                          written with a nonzero @c length4. */
+    uint8_t codewordEncoding; /**< Encoding of the code word. */
 } NetworkInitiatedPromptUMTSCP;
 
-/* One WiFi access point for InjectWiFiPositionData, as on the wire (13 bytes). */
+/**
+ * One WiFi access point for InjectWiFiPositionData item 0x12, written as it is (13 bytes).
+ * Multi-byte fields hold little-endian bytes on every host.
+ * @ingroup pds_inject_wifi_position_data
+ */
 typedef struct WiFiAccessPointEntry {
-    uint8_t macAddress[6];
-    uint32_t rssi;
-    uint16_t channel;
-    uint8_t flags;
+    uint8_t macAddress[6]; /**< MAC address, 6 bytes as they are. */
+    uint32_t rssi; /**< Received signal strength (u32). */
+    uint16_t channel; /**< WiFi channel (u16). */
+    uint8_t flags; /**< Flags. */
 } WiFiAccessPointEntry;
 
-/* A file for the modem's file system (16 bytes on 32-bit hosts). */
+/**
+ * A file for the modem's file system, the source of InjectEFSData item 0x01 (16 bytes on 32-bit hosts).
+ * The pointers are native; @c dataLength holds little-endian bytes on every host.
+ * @ingroup pds_inject_efs_data
+ */
 typedef struct EFSFileRecord {
-    uint8_t nameLength;
-    const uint8_t* name;
-    uint8_t fileOperation;
-    uint32_t dataLength;
-    uint8_t partNumber;
-    uint8_t totalParts;
-    const uint8_t* data;
+    uint8_t nameLength; /**< Length of the file name in bytes. */
+    const uint8_t* name; /**< File name bytes (no terminator); may be null only when @c nameLength is 0. */
+    uint8_t fileOperation; /**< File operation code. */
+    uint32_t dataLength; /**< Length of the file data in bytes (u32). */
+    uint8_t partNumber; /**< Number of this part. */
+    uint8_t totalParts; /**< Total number of parts. */
+    const uint8_t* data; /**< File data bytes; may be null only when @c dataLength is 0. */
 } EFSFileRecord;
 
 #pragma pack(pop)
 
-/* Reset 0x00 */
+/** @defgroup pds_reset Reset (0x00)
+ *  @ingroup svc_pds
+ *  @brief Resets the PDS state of this client.
+ *  @{
+ */
+/**
+ * Builds the Reset (0x00) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSResetReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the Reset (0x00) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x00; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSResetResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* SetEventReport 0x01: subscriptions */
+/** @defgroup pds_set_event_report SetEventReport (0x01)
+ *  @ingroup svc_pds
+ *  @brief Chooses which reports the EventReport indication delivers.
+ *  Each subscription item is numbered one lower than the indication item it enables, and 0x11 is skipped.
+ *  @{
+ */
+/**
+ * Builds the SetEventReport (0x01) request header, which optional items may follow.
+ * The items are appended with the zovQMIPDSSetEventReportReqAdd functions.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ * @note Deliberate: the subscription items skip 0x11 and are numbered one lower than the EventReport items they
+ *   enable (subscription 0x12 enables indication item 0x13, ..., 0x1A enables 0x1B); only the NMEA item is 0x10 in
+ *   both.
+ */
 ZOVQMI_API int zovQMIPDSSetEventReportReq(uint8_t* buf, int bufsize);
+/**
+ * Appends item 0x10 (1 byte), the subscription to NMEA sentences (indication item 0x10), to a SetEventReport (0x01)
+ * request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param report 1: report, 0: do not report.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddPositionDataNMEA(uint8_t* buf, int bufsize, uint8_t report);
+/**
+ * Appends item 0x12 (1 byte), the subscription to parsed position data (indication item 0x13), to a SetEventReport
+ * (0x01) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param report 1: report, 0: do not report.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddParsedPositionData(uint8_t* buf, int bufsize, uint8_t report);
+/**
+ * Appends item 0x13 (1 byte), the subscription to XTRA data requests (indication item 0x14), to a SetEventReport
+ * (0x01) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param report 1: report, 0: do not report.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddExternalXTRADataRequest(uint8_t* buf, int bufsize, uint8_t report);
+/**
+ * Appends item 0x14 (1 byte), the subscription to time injection requests (indication item 0x15), to a
+ * SetEventReport (0x01) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param report 1: report, 0: do not report.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddExternalTimeInjectionRequest(uint8_t* buf, int bufsize, uint8_t report);
+/**
+ * Appends item 0x15 (1 byte), the subscription to WiFi position requests (indication item 0x16), to a
+ * SetEventReport (0x01) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param report 1: report, 0: do not report.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddExternalWiFiPositionRequest(uint8_t* buf, int bufsize, uint8_t report);
+/**
+ * Appends item 0x16 (1 byte), the subscription to satellite information (indication item 0x17), to a SetEventReport
+ * (0x01) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param report 1: report, 0: do not report.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddSatelliteInformation(uint8_t* buf, int bufsize, uint8_t report);
+/**
+ * Appends item 0x17 (1 byte), the subscription to VX prompts (indication item 0x18), to a SetEventReport (0x01)
+ * request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param report 1: report, 0: do not report.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddNetworkInitiatedPromptVX(uint8_t* buf, int bufsize, uint8_t report);
+/**
+ * Appends item 0x18 (1 byte), the subscription to SUPL prompts (indication item 0x19), to a SetEventReport (0x01)
+ * request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param report 1: report, 0: do not report.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddNetworkInitiatedPromptSUPL(uint8_t* buf, int bufsize, uint8_t report);
+/**
+ * Appends item 0x19 (1 byte), the subscription to UMTS control-plane prompts (indication item 0x1A), to a
+ * SetEventReport (0x01) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param report 1: report, 0: do not report.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddNetworkInitiatedPromptUMTSCP(uint8_t* buf, int bufsize, uint8_t report);
+/**
+ * Appends item 0x1A (1 byte), the subscription to communication events (indication item 0x1B), to a SetEventReport
+ * (0x01) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param report 1: report, 0: do not report.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddPDSCommEvents(uint8_t* buf, int bufsize, uint8_t report);
+/**
+ * Parses the SetEventReport (0x01) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* EventReport 0x01 (indication) */
+/** @defgroup pds_event_report EventReport (0x01, indication)
+ *  @ingroup svc_pds
+ *  @brief Delivers NMEA sentences, position fixes, satellite data, assistance-data requests and network-initiated
+ *    prompts.
+ *  Every item is optional; fetch each with its getter.
+ *  @{
+ */
+/**
+ * Checks that a buffer holds the EventReport (0x01) indication; reads no item.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg; ZOVQMI_ERR_NO_MESSAGE when @p msg
+ *   holds no message 0x01.
+ */
 ZOVQMI_API int zovQMIPDSEventReportIND(const uint8_t* msg, int len);
+/**
+ * Reads item 0x10 of the EventReport (0x01) indication: the NMEA sentence(s), the whole value as it is.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param length Receives the value length in bytes (native); required.
+ * @param data Caller buffer of at least the item's length that receives the bytes (no terminator added); may be
+ *   null, then only @p length is delivered.  Nothing is copied for an empty item.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSEventReportINDGetPositionDataNMEA(const uint8_t* msg, int len, uint16_t* length, void* data);
+/**
+ * Reads item 0x12 of the EventReport (0x01) indication: the position session status (1 byte).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param status Receives the session status code as the modem sends it; required.
+ * @return The value length of item 0x12; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x12 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSEventReportINDGetPositionSessionStatus(const uint8_t* msg, int len, uint8_t* status);
+/**
+ * Reads item 0x13 of the EventReport (0x01) indication: a parsed position fix.
+ * Copies 105 bytes as they are into @p data, whatever the item's length says.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param data Receives the fix, laid out as on the wire; required.
+ * @return The value length of item 0x13; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x13 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSEventReportINDGetParsedPositionData(const uint8_t* msg, int len, ParsedPositionData* data);
+/**
+ * Reads item 0x14 of the EventReport (0x01) indication: the modem asks for XTRA data.
+ * Value: u16 maximum file size, a count, then count entries of a length byte and that many bytes (the servers to
+ * fetch from).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param maxFileSize Receives the maximum file size in bytes (native); required.
+ * @param count Receives the number of entries; required.
+ * @param entries Caller array of @p count entries, each with its @c data pointer set beforehand (or null to skip
+ *   that entry's bytes); may be null, then only @p maxFileSize and @p count are delivered.  The array's size is not
+ *   checked: it must hold the count the modem sends (up to 255).
+ * @return The value length of item 0x14; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x14 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSEventReportINDGetExternalXTRADatabaseRequest(const uint8_t* msg, int len,
                                                                     uint16_t* maxFileSize, uint8_t* count,
                                                                     LengthPrefixedEntry* entries);
+/**
+ * Reads item 0x15 of the EventReport (0x01) indication: the modem asks for a time injection.
+ * Value: u32 delay threshold, a count, then count entries of a length byte and that many bytes (the time servers).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param delayThreshold Receives the delay threshold (native); required.
+ * @param count Receives the number of entries; required.
+ * @param entries Caller array of @p count entries, each with its @c data pointer set beforehand (or null to skip
+ *   that entry's bytes); may be null, then only @p delayThreshold and @p count are delivered.  The array's size is
+ *   not checked.
+ * @return The value length of item 0x15; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x15 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSEventReportINDGetExternalTimeInjectionRequest(const uint8_t* msg, int len,
                                                                      uint32_t* delayThreshold, uint8_t* count,
                                                                      LengthPrefixedEntry* entries);
+/**
+ * Reads item 0x16 of the EventReport (0x01) indication: the modem asks for WiFi positions.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param request Receives the request byte (start or stop, as the modem sends it); required.
+ * @param interval Receives the requested interval (u16, native); required.
+ * @return The value length of item 0x16; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x16 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSEventReportINDGetExternalWiFiPositionRequest(const uint8_t* msg, int len, uint8_t* request,
                                                                     uint16_t* interval);
+/**
+ * Reads item 0x17 of the EventReport (0x01) indication: the satellites in view.
+ * Value: u32 valid mask, ionosphere byte, a count, then count 18-byte entries copied as they are.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param validMask Receives the valid mask (native); required.
+ * @param iono Receives the ionosphere byte; required.
+ * @param count Receives the number of satellites; required.
+ * @param entries Caller array of @p count entries; may be null, then only the leading fields and @p count are
+ *   delivered.  Its size is not checked.
+ * @return The value length of item 0x17; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x17 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSEventReportINDGetSatelliteInformation(const uint8_t* msg, int len, uint32_t* validMask,
                                                              uint8_t* iono, uint8_t* count,
                                                              SatelliteInformationEntry* entries);
+/**
+ * Reads item 0x18 of the EventReport (0x01) indication: a network-initiated VX prompt.
+ * The fields are read in record order; @c data receives the bytes when the pointer in @p prompt is set.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param prompt Receives the prompt; its @c data pointer is set by the caller beforehand (null: the bytes are not
+ *   copied); required.
+ * @return The value length of item 0x18; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x18 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the record is read at its own layout whatever the item's length says, so a short item is read
+ *   on into the bytes that follow it in @p msg.
+ */
 ZOVQMI_API int zovQMIPDSEventReportINDGetNetworkInitiatedPromptVX(const uint8_t* msg, int len,
                                                                  NetworkInitiatedPromptVX* prompt);
+/**
+ * Reads item 0x19 of the EventReport (0x01) indication: a network-initiated SUPL prompt.
+ * The fields are read in record order; block 1 goes into the record, blocks 2 and 3 through its pointers when set.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param prompt Receives the prompt; its @c block2 and @c block3 pointers are set by the caller beforehand (null:
+ *   not copied); required.
+ * @return The value length of item 0x19; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x19 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the record is read at its own layout whatever the item's length says, so a short item is read
+ *   on into the bytes that follow it in @p msg.
+ */
 ZOVQMI_API int zovQMIPDSEventReportINDGetNetworkInitiatedPromptSUPL(const uint8_t* msg, int len,
                                                                    NetworkInitiatedPromptSUPL* prompt);
+/**
+ * Reads item 0x1A of the EventReport (0x01) indication: a network-initiated UMTS control-plane prompt.
+ * The fields are read in record order; block 2 goes into the record, blocks 1, 3 and 4 through its pointers when
+ * set.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param prompt Receives the prompt; its @c block1, @c block3 and @c block4 pointers are set by the caller
+ *   beforehand (null: not copied); required.
+ * @return The value length of item 0x1A; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x1A is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the record is read at its own layout whatever the item's length says, so a short item is read
+ *   on into the bytes that follow it in @p msg.
+ */
 ZOVQMI_API int zovQMIPDSEventReportINDGetNetworkInitiatedPromptUMTSCP(const uint8_t* msg, int len,
                                                                      NetworkInitiatedPromptUMTSCP* prompt);
+/**
+ * Reads item 0x1B of the EventReport (0x01) indication: a communication event (2 bytes).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param type Receives the event type; required.
+ * @param state Receives the event state; required.
+ * @return The value length of item 0x1B; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x1B is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSEventReportINDGetPDSCommEvents(const uint8_t* msg, int len, uint8_t* type, uint8_t* state);
+/**
+ * Reads item 0x1C of the EventReport (0x01) indication: the source of the position (u32).
+ * This item has no subscription item of its own.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param source Receives the position source (native); required.
+ * @return The value length of item 0x1C; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x1C is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSEventReportINDGetPositionSource(const uint8_t* msg, int len, uint32_t* source);
+/** @} */
 
-/* GetGPSServiceState 0x20 and the GPSServiceState indication */
+/** @defgroup pds_get_gps_service_state GetGPSServiceState (0x20) and GPSServiceState (0x20, indication)
+ *  @ingroup svc_pds
+ *  @brief Reads whether the GPS service is on and its tracking state; the indication reports changes.
+ *  @{
+ */
+/**
+ * Builds the GetGPSServiceState (0x20) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSGetGPSServiceStateReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the GetGPSServiceState (0x20) response: result item 0x02 and item 0x01 (2 bytes).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param enabled Receives the service state: 0 disabled, 1 enabled; required.
+ * @param trackingState Receives the tracking state as the modem sends it; required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
+ *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x20; ZOVQMI_ERR_NO_TLV when the
+ *   result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
+ *   then).
+ */
 ZOVQMI_API int zovQMIPDSGetGPSServiceStateResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* enabled,
                                               uint8_t* trackingState);
+/**
+ * Parses the GPSServiceState (0x20) indication: item 0x01 (2 bytes), as in the response.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param enabled Receives the service state: 0 disabled, 1 enabled; required.
+ * @param trackingState Receives the tracking state as the modem sends it; required.
+ * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x20; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSGPSServiceStateIND(const uint8_t* msg, int len, uint8_t* enabled, uint8_t* trackingState);
+/** @} */
 
-/* SetGPSServiceState 0x21 */
+/** @defgroup pds_set_gps_service_state SetGPSServiceState (0x21)
+ *  @ingroup svc_pds
+ *  @brief Switches the GPS service on or off.
+ *  @{
+ */
+/**
+ * Builds the SetGPSServiceState (0x21) request with its item 0x01 (1 byte): 11 bytes.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 11.
+ * @param state 1: enable the GPS service, 0: disable it.
+ * @return 11, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 11 (nothing is
+ *   written).
+ */
 ZOVQMI_API int zovQMIPDSSetGPSServiceStateReq(uint8_t* buf, int bufsize, uint8_t state);
+/**
+ * Parses the SetGPSServiceState (0x21) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x21; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSSetGPSServiceStateResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* GetDefaultTrackingSession 0x29 */
+/** @defgroup pds_get_default_tracking_session GetDefaultTrackingSession (0x29)
+ *  @ingroup svc_pds
+ *  @brief Reads the default parameters of tracking sessions.
+ *  @{
+ */
+/**
+ * Builds the GetDefaultTrackingSession (0x29) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSGetDefaultTrackingSessionReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the GetDefaultTrackingSession (0x29) response: result item 0x02 and item 0x01 (u8, u8, u32, u32: 10
+ * bytes).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param mode Receives the session operating mode; required.
+ * @param timeout Receives the time the engine may spend on one fix, in seconds; required.
+ * @param interval Receives the interval between fixes, in milliseconds (native); required.
+ * @param accuracy Receives the accuracy threshold, in metres (native); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
+ *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x29; ZOVQMI_ERR_NO_TLV when the
+ *   result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
+ *   then).
+ */
 ZOVQMI_API int zovQMIPDSGetDefaultTrackingSessionResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* mode,
                                                      uint8_t* timeout, uint32_t* interval, uint32_t* accuracy);
+/** @} */
 
-/* SetDefaultTrackingSession 0x2A */
+/** @defgroup pds_set_default_tracking_session SetDefaultTrackingSession (0x2A)
+ *  @ingroup svc_pds
+ *  @brief Sets the default parameters of tracking sessions.
+ *  @{
+ */
+/**
+ * Builds the SetDefaultTrackingSession (0x2A) request with its item 0x01 (u8, u8, u32, u32: 10 bytes): 20 bytes.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 20.
+ * @param mode Session operating mode.
+ * @param timeout Time the engine may spend on one fix, in seconds.
+ * @param interval Interval between fixes, in milliseconds (written little-endian).
+ * @param accuracy Accuracy threshold, in metres (written little-endian).
+ * @return 20, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 20 (nothing is
+ *   written).
+ */
 ZOVQMI_API int zovQMIPDSSetDefaultTrackingSessionReq(uint8_t* buf, int bufsize, uint8_t mode, uint8_t timeout,
                                                     uint32_t interval, uint32_t accuracy);
+/**
+ * Parses the SetDefaultTrackingSession (0x2A) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2A; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSSetDefaultTrackingSessionResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* GetAutoTrackingState 0x30 */
+/** @defgroup pds_get_auto_tracking_state GetAutoTrackingState (0x30)
+ *  @ingroup svc_pds
+ *  @brief Reads whether automatic tracking is on.
+ *  @{
+ */
+/**
+ * Builds the GetAutoTrackingState (0x30) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSGetAutoTrackingStateReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the GetAutoTrackingState (0x30) response: result item 0x02 and item 0x01 (1 byte).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param state Receives the automatic tracking state: 0 off, 1 on; required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
+ *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x30; ZOVQMI_ERR_NO_TLV when the
+ *   result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
+ *   then).
+ */
 ZOVQMI_API int zovQMIPDSGetAutoTrackingStateResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* state);
+/** @} */
 
-/* SetAutoTrackingState 0x31 */
+/** @defgroup pds_set_auto_tracking_state SetAutoTrackingState (0x31)
+ *  @ingroup svc_pds
+ *  @brief Switches automatic tracking on or off.
+ *  @{
+ */
+/**
+ * Builds the SetAutoTrackingState (0x31) request with its item 0x01 (1 byte): 11 bytes.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 11.
+ * @param state 1: automatic tracking on, 0: off.
+ * @return 11, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 11 (nothing is
+ *   written).
+ */
 ZOVQMI_API int zovQMIPDSSetAutoTrackingStateReq(uint8_t* buf, int bufsize, uint8_t state);
+/**
+ * Parses the SetAutoTrackingState (0x31) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x31; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSSetAutoTrackingStateResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* DetermineSinglePosition 0x35 */
+/** @defgroup pds_determine_single_position DetermineSinglePosition (0x35)
+ *  @ingroup svc_pds
+ *  @brief Starts one position fix; the fix arrives in the EventReport indication.
+ *  @{
+ */
+/**
+ * Builds the DetermineSinglePosition (0x35) request header, which optional items may follow.
+ * The items are appended with the zovQMIPDSDetermineSinglePositionReqAdd functions.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSDetermineSinglePositionReq(uint8_t* buf, int bufsize);
+/**
+ * Appends item 0x10 (1 byte), the session mode, to a DetermineSinglePosition (0x35) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param mode Session operating mode.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSDetermineSinglePositionReqAddSinglePositionMode(uint8_t* buf, int bufsize, uint8_t mode);
+/**
+ * Appends item 0x11 (1 byte), the time-out, to a DetermineSinglePosition (0x35) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param timeout Time the engine may spend on the fix, in seconds.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSDetermineSinglePositionReqAddSinglePositionTimeout(uint8_t* buf, int bufsize, uint8_t timeout);
+/**
+ * Appends item 0x12 (u32), the accuracy threshold, to a DetermineSinglePosition (0x35) request.
+ * Appends 7 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param accuracy Accuracy threshold, in metres (written little-endian).
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSDetermineSinglePositionReqAddSinglePositionAccuracy(uint8_t* buf, int bufsize,
                                                                            uint32_t accuracy);
+/**
+ * Parses the DetermineSinglePosition (0x35) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x35; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSDetermineSinglePositionResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* SendNIResponse 0x3C */
+/** @defgroup pds_send_ni_response SendNIResponse (0x3C)
+ *  @ingroup svc_pds
+ *  @brief Answers a network-initiated prompt.
+ *  @{
+ */
+/**
+ * Builds the SendNIResponse (0x3C) request with its item 0x01 (1 byte), the user's answer: 11 bytes.
+ * The prompt answered is appended with one of the SendNIResponseReqAdd... functions.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 11.
+ * @param action The answer (accept, deny, ...) as the modem defines it.
+ * @return 11, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 11 (nothing is
+ *   written).
+ */
 ZOVQMI_API int zovQMIPDSSendNIResponseReq(uint8_t* buf, int bufsize, uint8_t action);
+/**
+ * Appends item 0x10, the VX prompt answered, to a SendNIResponse (0x3C) request.
+ * The value is the record's fields in order, then @c dataLength data bytes: 17 + @c dataLength bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param prompt The prompt to send back; required.  Its @c data must be set when @c dataLength is nonzero.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf or @p prompt, or a nonzero @c dataLength with a
+ *   null @c data; ZOVQMI_ERR_NO_ROOM when the item does not fit in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSendNIResponseReqAddNetworkInitiatedPromptVX(uint8_t* buf, int bufsize,
                                                                     const NetworkInitiatedPromptVX* prompt);
+/**
+ * Appends item 0x11, the SUPL prompt answered, to a SendNIResponse (0x3C) request.
+ * The value is the record's fields in order, each length byte followed by its block: 56 + @c length1 + @c length2 +
+ * @c length3 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param prompt The prompt to send back; required.  @c block2 and @c block3 must be set when their length is
+ *   nonzero.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf or @p prompt, or a nonzero block length with a
+ *   null block pointer; ZOVQMI_ERR_NO_ROOM when the item does not fit in @p bufsize (the message is left as it
+ *   was).
+ */
 ZOVQMI_API int zovQMIPDSSendNIResponseReqAddNetworkInitiatedPromptSUPL(uint8_t* buf, int bufsize,
                                                                       const NetworkInitiatedPromptSUPL* prompt);
+/**
+ * Appends item 0x11, the UMTS control-plane prompt answered, to a SendNIResponse (0x3C) request.
+ * The value is the record's fields in order, each length byte followed by its block: 15 + @c length1 + ... + @c
+ * length4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param prompt The prompt to send back; required.  @c block1, @c block3 and @c block4 must be set when their
+ *   length is nonzero.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf or @p prompt, or a nonzero block length with a
+ *   null block pointer; ZOVQMI_ERR_NO_ROOM when the item does not fit in @p bufsize; ZOVQMI_ERR_MALFORMED when the
+ *   value would exceed 1024 bytes (the message is left as it was in both cases).
+ * @note Deliberate: the item type is 0x11, the same as the SUPL answer's.
+ */
 ZOVQMI_API int zovQMIPDSSendNIResponseReqAddNetworkInitiatedPromptUMTSCP(uint8_t* buf, int bufsize,
                                                                         const NetworkInitiatedPromptUMTSCP* prompt);
+/**
+ * Parses the SendNIResponse (0x3C) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x3C; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSSendNIResponseResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* CancelSinglePosition 0x43 */
+/** @defgroup pds_cancel_single_position CancelSinglePosition (0x43)
+ *  @ingroup svc_pds
+ *  @brief Cancels a running single position fix.
+ *  @{
+ */
+/**
+ * Builds the CancelSinglePosition (0x43) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSCancelSinglePositionReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the CancelSinglePosition (0x43) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x43; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSCancelSinglePositionResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* GetGPSStateInfo 0x44 */
+/** @defgroup pds_get_gps_state_info GetGPSStateInfo (0x44)
+ *  @ingroup svc_pds
+ *  @brief Reads the engine's state: last position, time and the satellite masks.
+ *  @{
+ */
+/**
+ * Builds the GetGPSStateInfo (0x44) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSGetGPSStateInfoReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the GetGPSStateInfo (0x44) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x44; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSGetGPSStateInfoResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x10 of the GetGPSStateInfo (0x44) response: the engine state.
+ * Copies 98 bytes as they are into @p info, whatever the item's length says.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param info Receives the state, laid out as on the wire; required.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x44; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSGetGPSStateInfoRespGetGPSStateInformation(const uint8_t* msg, int len,
                                                                  GPSStateInformation* info);
+/** @} */
 
-/* GetNMEAConfig 0x26 */
+/** @defgroup pds_get_nmea_config GetNMEAConfig (0x26)
+ *  @ingroup svc_pds
+ *  @brief Reads which NMEA sentences the modem emits and where.
+ *  @{
+ */
+/**
+ * Builds the GetNMEAConfig (0x26) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSGetNMEAConfigReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the GetNMEAConfig (0x26) response: result item 0x02 and item 0x01 (3 bytes).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param sentenceMask Receives the bit mask of NMEA sentences emitted; required.
+ * @param port Receives the output port; required.
+ * @param reporting Receives the reporting rate setting; required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
+ *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x26; ZOVQMI_ERR_NO_TLV when the
+ *   result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
+ *   then).
+ */
 ZOVQMI_API int zovQMIPDSGetNMEAConfigResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* sentenceMask,
                                          uint8_t* port, uint8_t* reporting);
+/** @} */
 
-/* SetNMEAConfig 0x27 */
+/** @defgroup pds_set_nmea_config SetNMEAConfig (0x27)
+ *  @ingroup svc_pds
+ *  @brief Sets which NMEA sentences the modem emits and where.
+ *  @{
+ */
+/**
+ * Builds the SetNMEAConfig (0x27) request with its item 0x01 (3 bytes): 13 bytes.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 13.
+ * @param sentenceMask Bit mask of NMEA sentences to emit.
+ * @param port Output port.
+ * @param reporting Reporting rate setting.
+ * @return 13, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 13 (nothing is
+ *   written).
+ */
 ZOVQMI_API int zovQMIPDSSetNMEAConfigReq(uint8_t* buf, int bufsize, uint8_t sentenceMask, uint8_t port,
                                         uint8_t reporting);
+/**
+ * Parses the SetNMEAConfig (0x27) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x27; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSSetNMEAConfigResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* InjectRelativeTimeRef 0x28 */
+/** @defgroup pds_inject_relative_time_ref InjectRelativeTimeRef (0x28)
+ *  @ingroup svc_pds
+ *  @brief Injects a relative time reference.
+ *  @{
+ */
+/**
+ * Builds the InjectRelativeTimeRef (0x28) request with its item 0x01 (64-bit time, u16: 10 bytes): 20 bytes.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 20.
+ * @param systemTime System time, written as raw 64-bit bits, two little-endian 32-bit halves, low half first.
+ * @param discontinuities Number of time discontinuities (written little-endian).
+ * @return 20, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 20 (nothing is
+ *   written).
+ */
 ZOVQMI_API int zovQMIPDSInjectRelativeTimeRefReq(uint8_t* buf, int bufsize, uint64_t systemTime,
                                                 uint16_t discontinuities);
+/**
+ * Parses the InjectRelativeTimeRef (0x28) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x28; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSInjectRelativeTimeRefResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* GetXTRAParameters 0x2B */
+/** @defgroup pds_get_xtra_parameters GetXTRAParameters (0x2B)
+ *  @ingroup svc_pds
+ *  @brief Reads the XTRA assistance-data settings.
+ *  @{
+ */
+/**
+ * Builds the GetXTRAParameters (0x2B) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the GetXTRAParameters (0x2B) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2B; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x10 of the GetXTRAParameters (0x2B) response: automatic download (u8, u16).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param enabled Receives 1 when automatic download is on, 0 when off; required.
+ * @param interval Receives the download interval, in hours (native); required.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2B; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseAutodownload(const uint8_t* msg, int len,
                                                                         uint8_t* enabled, uint16_t* interval);
+/**
+ * Reads item 0x11 of the GetXTRAParameters (0x2B) response: the download medium configuration, a length byte then
+ * that many bytes.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param length Receives the length byte; required.
+ * @param data Caller buffer of up to 255 bytes that receives the bytes; may be null, then only @p length is
+ *   delivered.
+ * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2B; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseDownloadMediumConfiguration(const uint8_t* msg, int len,
                                                                                        uint8_t* length, void* data);
+/**
+ * Reads item 0x12 of the GetXTRAParameters (0x2B) response: the network used for downloads (1 byte).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param network Receives the network setting; required.
+ * @return The value length of item 0x12; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2B; ZOVQMI_ERR_NO_TLV when item 0x12 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseDownloadNetworkConfiguration(const uint8_t* msg, int len,
                                                                                         uint8_t* network);
+/**
+ * Reads item 0x13 of the GetXTRAParameters (0x2B) response: the validity of the XTRA data (three u16).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param startWeek Receives the GPS week at which the data starts (native); required.
+ * @param startMinutes Receives the minutes into that week (native); required.
+ * @param validHours Receives the number of hours the data is valid (native); required.
+ * @return The value length of item 0x13; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2B; ZOVQMI_ERR_NO_TLV when item 0x13 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseValidity(const uint8_t* msg, int len, uint16_t* startWeek,
                                                                     uint16_t* startMinutes, uint16_t* validHours);
+/**
+ * Reads item 0x14 of the GetXTRAParameters (0x2B) response: the embedded XTRA clients (2 bytes).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param dataClient Receives 1 when the embedded data client is on, 0 when off; required.
+ * @param timeClient Receives 1 when the embedded time client is on, 0 when off; required.
+ * @return The value length of item 0x14; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2B; ZOVQMI_ERR_NO_TLV when item 0x14 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetEmbeddedXTRAClientState(const uint8_t* msg, int len,
                                                                        uint8_t* dataClient, uint8_t* timeClient);
+/** @} */
 
-/* SetXTRAParameters 0x2C */
+/** @defgroup pds_set_xtra_parameters SetXTRAParameters (0x2C)
+ *  @ingroup svc_pds
+ *  @brief Sets the XTRA assistance-data settings.
+ *  @{
+ */
+/**
+ * Builds the SetXTRAParameters (0x2C) request header, which optional items may follow.
+ * The items are appended with the zovQMIPDSSetXTRAParametersReqAdd functions.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSSetXTRAParametersReq(uint8_t* buf, int bufsize);
+/**
+ * Appends item 0x10 (u8, u16), automatic download, to a SetXTRAParameters (0x2C) request.
+ * Appends 6 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param enabled 1: automatic download on, 0: off.
+ * @param interval Download interval, in hours (written little-endian).
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetXTRAParametersReqAddXTRADatabaseAutodownload(uint8_t* buf, int bufsize, uint8_t enabled,
                                                                        uint16_t interval);
+/**
+ * Appends item 0x11, the download medium configuration, to a SetXTRAParameters (0x2C) request.
+ * The value is the length byte then @p length bytes; appends 4 + @p length bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param length Number of bytes in @p data (0-255).
+ * @param data The configuration bytes; may be null only when @p length is 0.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf, or a nonzero @p length with a null @p data;
+ *   ZOVQMI_ERR_NO_ROOM when the item does not fit in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetXTRAParametersReqAddXTRADatabaseDownloadConfiguration(uint8_t* buf, int bufsize,
                                                                                 uint8_t length, const void* data);
+/**
+ * Appends item 0x12 (1 byte), the network used for downloads, to a SetXTRAParameters (0x2C) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param network Network setting.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetXTRAParametersReqAddXTRADatabaseNetworkConfiguration(uint8_t* buf, int bufsize,
                                                                                uint8_t network);
+/**
+ * Appends item 0x14 (2 bytes), the embedded XTRA clients, to a SetXTRAParameters (0x2C) request.
+ * Appends 5 bytes.  There is no item 0x13 in this request.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param dataClient 1: embedded data client on, 0: off.
+ * @param timeClient 1: embedded time client on, 0: off.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetXTRAParametersReqAddEmbeddedXTRAClientState(uint8_t* buf, int bufsize, uint8_t dataClient,
                                                                       uint8_t timeClient);
+/**
+ * Parses the SetXTRAParameters (0x2C) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2C; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSSetXTRAParametersResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* ForceXTRADownload 0x2D */
+/** @defgroup pds_force_xtra_download ForceXTRADownload (0x2D)
+ *  @ingroup svc_pds
+ *  @brief Makes the modem download XTRA data now.
+ *  @{
+ */
+/**
+ * Builds the ForceXTRADownload (0x2D) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSForceXTRADownloadReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the ForceXTRADownload (0x2D) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2D; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSForceXTRADownloadResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* GetAGPSConfig 0x2E */
+/** @defgroup pds_get_agps_config GetAGPSConfig (0x2E)
+ *  @ingroup svc_pds
+ *  @brief Reads the assisted-GPS location server.
+ *  @{
+ */
+/**
+ * Builds the GetAGPSConfig (0x2E) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSGetAGPSConfigReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the GetAGPSConfig (0x2E) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2E; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSGetAGPSConfigResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x10 of the GetAGPSConfig (0x2E) response: the location server's IPv4 address and port (two u32).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param address Receives the IPv4 address (native); required.
+ * @param port Receives the port (native); required.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2E; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSGetAGPSConfigRespGetAGPSLocationServerIPv4(const uint8_t* msg, int len, uint32_t* address,
                                                                   uint32_t* port);
+/**
+ * Reads item 0x11 of the GetAGPSConfig (0x2E) response: the location server's URL, a length byte then that many
+ * bytes.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param length Receives the URL length in bytes; required.
+ * @param data Caller buffer of up to 255 bytes that receives the URL (no terminator added); may be null, then only
+ *   @p length is delivered.
+ * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2E; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSGetAGPSConfigRespGetAGPSLocationServerURL(const uint8_t* msg, int len, uint8_t* length,
                                                                  void* data);
+/** @} */
 
-/* SetAGPSConfig 0x2F */
+/** @defgroup pds_set_agps_config SetAGPSConfig (0x2F)
+ *  @ingroup svc_pds
+ *  @brief Sets the assisted-GPS location server.
+ *  @{
+ */
+/**
+ * Builds the SetAGPSConfig (0x2F) request header, which optional items may follow.
+ * The items are appended with the zovQMIPDSSetAGPSConfigReqAdd functions.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSSetAGPSConfigReq(uint8_t* buf, int bufsize);
+/**
+ * Appends item 0x10 (two u32), the location server's IPv4 address and port, to a SetAGPSConfig (0x2F) request.
+ * Appends 11 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param address IPv4 address (written little-endian).
+ * @param port Port (written little-endian).
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetAGPSConfigReqAddAGPSLocationServer(uint8_t* buf, int bufsize, uint32_t address,
                                                              uint32_t port);
+/**
+ * Appends item 0x11, the location server's URL, to a SetAGPSConfig (0x2F) request.
+ * The value is the length byte then @p length bytes (no terminator); appends 4 + @p length bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param length Number of bytes in @p data (0-255).
+ * @param data The URL bytes; may be null only when @p length is 0.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf, or a nonzero @p length with a null @p data;
+ *   ZOVQMI_ERR_NO_ROOM when the item does not fit in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetAGPSConfigReqAddAGPSLocationServerURL(uint8_t* buf, int bufsize, uint8_t length,
                                                                 const void* data);
+/**
+ * Parses the SetAGPSConfig (0x2F) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2F; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSSetAGPSConfigResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* GetCOMPortConfig 0x32 */
+/** @defgroup pds_get_com_port_config GetCOMPortConfig (0x32)
+ *  @ingroup svc_pds
+ *  @brief Reads the COM port setting.
+ *  @{
+ */
+/**
+ * Builds the GetCOMPortConfig (0x32) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSGetCOMPortConfigReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the GetCOMPortConfig (0x32) response: result item 0x02 and item 0x01 (1 byte).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param port Receives the COM port setting; required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
+ *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x32; ZOVQMI_ERR_NO_TLV when the
+ *   result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
+ *   then).
+ */
 ZOVQMI_API int zovQMIPDSGetCOMPortConfigResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* port);
+/** @} */
 
-/* SetCOMPortConfig 0x33 */
+/** @defgroup pds_set_com_port_config SetCOMPortConfig (0x33)
+ *  @ingroup svc_pds
+ *  @brief Sets the COM port.
+ *  @{
+ */
+/**
+ * Builds the SetCOMPortConfig (0x33) request with its item 0x01 (1 byte): 11 bytes.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 11.
+ * @param port COM port setting.
+ * @return 11, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 11 (nothing is
+ *   written).
+ */
 ZOVQMI_API int zovQMIPDSSetCOMPortConfigReq(uint8_t* buf, int bufsize, uint8_t port);
+/**
+ * Parses the SetCOMPortConfig (0x33) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x33; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSSetCOMPortConfigResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* ResetGPSServiceData 0x34 */
+/** @defgroup pds_reset_gps_service_data ResetGPSServiceData (0x34)
+ *  @ingroup svc_pds
+ *  @brief Deletes stored GPS data (ephemeris, almanac, cell database, ...).
+ *  @{
+ */
+/**
+ * Builds the ResetGPSServiceData (0x34) request header, which optional items may follow.
+ * The items are appended with the zovQMIPDSResetGPSServiceDataReqAdd functions.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSResetGPSServiceDataReq(uint8_t* buf, int bufsize);
+/**
+ * Appends item 0x10 (u32), the GPS data to delete, to a ResetGPSServiceData (0x34) request.
+ * Appends 7 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param mask Bit mask of the GPS data to delete (written little-endian).
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSResetGPSServiceDataReqAddGPSServiceData(uint8_t* buf, int bufsize, uint32_t mask);
+/**
+ * Appends item 0x11 (u32), the cell database data to delete, to a ResetGPSServiceData (0x34) request.
+ * Appends 7 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param mask Bit mask of the cell database data to delete (written little-endian).
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSResetGPSServiceDataReqAddGPSServiceCellDBData(uint8_t* buf, int bufsize, uint32_t mask);
+/**
+ * Parses the ResetGPSServiceData (0x34) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x34; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSResetGPSServiceDataResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* GetGPSServiceVersion 0x36 */
+/** @defgroup pds_get_gps_service_version GetGPSServiceVersion (0x36)
+ *  @ingroup svc_pds
+ *  @brief Reads the version of the GPS service.
+ *  @{
+ */
+/**
+ * Builds the GetGPSServiceVersion (0x36) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSGetGPSServiceVersionReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the GetGPSServiceVersion (0x36) response: result item 0x02 and item 0x01 (2 bytes).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param major Receives the major version; required.
+ * @param minor Receives the minor version; required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
+ *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x36; ZOVQMI_ERR_NO_TLV when the
+ *   result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
+ *   then).
+ */
 ZOVQMI_API int zovQMIPDSGetGPSServiceVersionResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* major,
                                                 uint8_t* minor);
+/** @} */
 
-/* InjectXTRAData 0x37 */
+/** @defgroup pds_inject_xtra_data InjectXTRAData (0x37)
+ *  @ingroup svc_pds
+ *  @brief Injects one block of XTRA data.
+ *  @{
+ */
+/**
+ * Builds the InjectXTRAData (0x37) request with its item 0x01: 15 + @p length bytes.
+ * The value is the sequence byte, the total length (u16), @p length (u16) and the data bytes: 5 + @p length bytes.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 15 + @p length.
+ * @param sequence Sequence number of this block.
+ * @param totalLength Total length of the XTRA data in bytes (written little-endian).
+ * @param length Number of bytes in @p data (written little-endian).
+ * @param data The block's bytes; may be null only when @p length is 0.
+ * @return 15 + @p length, the request length; ZOVQMI_ERR_ARG when @p buf is null, @p bufsize is below 15 + @p
+ *   length, or @p length is nonzero with a null @p data (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSInjectXTRADataReq(uint8_t* buf, int bufsize, uint8_t sequence, uint16_t totalLength,
                                          uint16_t length, const void* data);
+/**
+ * Parses the InjectXTRAData (0x37) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x37; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSInjectXTRADataResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* InjectPositionData 0x38 (64-bit values are raw bits) */
+/** @defgroup pds_inject_position_data InjectPositionData (0x38)
+ *  @ingroup svc_pds
+ *  @brief Injects a position fix obtained elsewhere.
+ *  @{
+ */
+/**
+ * Builds the InjectPositionData (0x38) request header, which optional items may follow.
+ * The items are appended with the zovQMIPDSInjectPositionDataReqAdd functions.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReq(uint8_t* buf, int bufsize);
+/**
+ * Appends item 0x10 (64-bit), the time stamp of the fix, to an InjectPositionData (0x38) request.
+ * Appends 11 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param timestamp Time stamp, written as raw 64-bit bits, two little-endian 32-bit halves, low half first.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddTimestamp(uint8_t* buf, int bufsize, uint64_t timestamp);
+/**
+ * Appends item 0x11 (64-bit), the latitude, to an InjectPositionData (0x38) request.
+ * Appends 11 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param latitude Latitude: the raw bits of an IEEE double (degrees), two little-endian 32-bit halves, low half
+ *   first.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddLatitude(uint8_t* buf, int bufsize, uint64_t latitude);
+/**
+ * Appends item 0x12 (64-bit), the longitude, to an InjectPositionData (0x38) request.
+ * Appends 11 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param longitude Longitude: the raw bits of an IEEE double (degrees), two little-endian 32-bit halves, low half
+ *   first.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddLongitude(uint8_t* buf, int bufsize, uint64_t longitude);
+/**
+ * Appends item 0x13 (u32), the altitude above the ellipsoid, to an InjectPositionData (0x38) request.
+ * Appends 7 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param altitude Altitude above the ellipsoid (written little-endian).
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddAltitudeFromEllipsoid(uint8_t* buf, int bufsize, uint32_t altitude);
+/**
+ * Appends item 0x14 (u32), the altitude above sea level, to an InjectPositionData (0x38) request.
+ * Appends 7 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param altitude Altitude above sea level (written little-endian).
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddAltitudeFromSeaLevel(uint8_t* buf, int bufsize, uint32_t altitude);
+/**
+ * Appends item 0x15 (u32), the circular horizontal uncertainty, to an InjectPositionData (0x38) request.
+ * Appends 7 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param uncertainty Circular horizontal uncertainty (written little-endian).
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddHorizontalUncertaintyCircular(uint8_t* buf, int bufsize,
                                                                              uint32_t uncertainty);
+/**
+ * Appends item 0x16 (u32), the vertical uncertainty, to an InjectPositionData (0x38) request.
+ * Appends 7 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param uncertainty Vertical uncertainty (written little-endian).
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddVerticalUncertainty(uint8_t* buf, int bufsize, uint32_t uncertainty);
+/**
+ * Appends item 0x17 (1 byte), the horizontal confidence, to an InjectPositionData (0x38) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param confidence Horizontal confidence.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddHorizontalConfidence(uint8_t* buf, int bufsize, uint8_t confidence);
+/**
+ * Appends item 0x18 (1 byte), the vertical confidence, to an InjectPositionData (0x38) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param confidence Vertical confidence.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddVerticalConfidence(uint8_t* buf, int bufsize, uint8_t confidence);
+/**
+ * Appends item 0x19 (1 byte), the source of the position, to an InjectPositionData (0x38) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param source Position source.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddPositionSource(uint8_t* buf, int bufsize, uint8_t source);
+/**
+ * Appends item 0x1A (1 byte), the type of the time stamp, to an InjectPositionData (0x38) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param timeType Time stamp type.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddTimeType(uint8_t* buf, int bufsize, uint8_t timeType);
+/**
+ * Parses the InjectPositionData (0x38) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x38; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSInjectPositionDataResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* InjectWiFiPositionData 0x39 */
+/** @defgroup pds_inject_wifi_position_data InjectWiFiPositionData (0x39)
+ *  @ingroup svc_pds
+ *  @brief Injects a WiFi position and the access points seen.
+ *  @{
+ */
+/**
+ * Builds the InjectWiFiPositionData (0x39) request header, which optional items may follow.
+ * The items are appended with the zovQMIPDSInjectWiFiPositionDataReqAdd functions.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataReq(uint8_t* buf, int bufsize);
+/**
+ * Appends item 0x10 (u32), the time of the WiFi position, to an InjectWiFiPositionData (0x39) request.
+ * Appends 7 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param time Time of the position (written little-endian).
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataReqAddWiFiPositionTime(uint8_t* buf, int bufsize, uint32_t time);
+/**
+ * Appends item 0x11 (u32, u32, u16, u8, u8: 12 bytes), the WiFi position, to an InjectWiFiPositionData (0x39)
+ * request.
+ * Appends 15 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param latitude Latitude (written little-endian).
+ * @param longitude Longitude (written little-endian).
+ * @param uncertainty Horizontal uncertainty (written little-endian).
+ * @param confidence Confidence.
+ * @param reliability Reliability.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataReqAddWiFiPosition(uint8_t* buf, int bufsize, uint32_t latitude,
                                                                 uint32_t longitude, uint16_t uncertainty,
                                                                 uint8_t confidence, uint8_t reliability);
+/**
+ * Appends item 0x12, the access points seen, to an InjectWiFiPositionData (0x39) request.
+ * The value is @p count, then the @p count 13-byte entries as they are: appends 4 + 13 per entry bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param count Number of entries.
+ * @param entries Array of @p count access points; may be null only when @p count is 0.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf, or a nonzero @p count with a null @p entries;
+ *   ZOVQMI_ERR_NO_ROOM when the item does not fit in @p bufsize; ZOVQMI_ERR_MALFORMED when the value would exceed
+ *   1024 bytes (more than 78 entries); the message is left as it was on failure.
+ */
 ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataReqAddWiFiPositionAPInformation(uint8_t* buf, int bufsize,
                                                                              uint8_t count,
                                                                              const WiFiAccessPointEntry* entries);
+/**
+ * Parses the InjectWiFiPositionData (0x39) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x39; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* GetSBASConfig 0x3A */
+/** @defgroup pds_get_sbas_config GetSBASConfig (0x3A)
+ *  @ingroup svc_pds
+ *  @brief Reads the SBAS setting.
+ *  @{
+ */
+/**
+ * Builds the GetSBASConfig (0x3A) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSGetSBASConfigReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the GetSBASConfig (0x3A) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x3A; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSGetSBASConfigResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x10 of the GetSBASConfig (0x3A) response: the SBAS setting (1 byte).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param config Receives the SBAS setting: 1 enabled, 0 disabled; required.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x3A; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSGetSBASConfigRespGetSBASConfiguration(const uint8_t* msg, int len, uint8_t* config);
+/** @} */
 
-/* SetSBASConfig 0x3B */
+/** @defgroup pds_set_sbas_config SetSBASConfig (0x3B)
+ *  @ingroup svc_pds
+ *  @brief Sets the SBAS setting.
+ *  @{
+ */
+/**
+ * Builds the SetSBASConfig (0x3B) request header, which optional items may follow.
+ * The items are appended with zovQMIPDSSetSBASConfigReqAddSBASConfiguration.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSSetSBASConfigReq(uint8_t* buf, int bufsize);
+/**
+ * Appends item 0x10 (1 byte), the SBAS setting, to a SetSBASConfig (0x3B) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param config 1: SBAS enabled, 0: disabled.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetSBASConfigReqAddSBASConfiguration(uint8_t* buf, int bufsize, uint8_t config);
+/**
+ * Parses the SetSBASConfig (0x3B) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x3B; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSSetSBASConfigResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* InjectAbsTimeRef 0x3D (its time item is optional yet of type 0x01) */
+/** @defgroup pds_inject_abs_time_ref InjectAbsTimeRef (0x3D)
+ *  @ingroup svc_pds
+ *  @brief Injects an absolute time reference.
+ *  @{
+ */
+/**
+ * Builds the InjectAbsTimeRef (0x3D) request header, which optional items may follow.
+ * The items are appended with zovQMIPDSInjectAbsTimeRefReqAddAbsoluteTimeInjection.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSInjectAbsTimeRefReq(uint8_t* buf, int bufsize);
+/**
+ * Appends item 0x01 (64-bit, u32, u8, u8: 14 bytes), the absolute time, to an InjectAbsTimeRef (0x3D) request.
+ * Appends 17 bytes and raises the header's TLV-area length.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param time The time, written as raw 64-bit bits, two little-endian 32-bit halves, low half first.
+ * @param uncertainty Time uncertainty (written little-endian).
+ * @param timeBase Time base of @p time.
+ * @param forceAccept Nonzero: the modem is to accept the time whatever its own.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ * @note Deliberate: an optional-item builder that appends item type 0x01; InjectAbsTimeRefReq writes a header with
+ *   no items.
+ */
 ZOVQMI_API int zovQMIPDSInjectAbsTimeRefReqAddAbsoluteTimeInjection(uint8_t* buf, int bufsize, uint64_t time,
                                                                    uint32_t uncertainty, uint8_t timeBase,
                                                                    uint8_t forceAccept);
+/**
+ * Parses the InjectAbsTimeRef (0x3D) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x3D; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSInjectAbsTimeRefResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* InjectEFSData 0x3E */
+/** @defgroup pds_inject_efs_data InjectEFSData (0x3E)
+ *  @ingroup svc_pds
+ *  @brief Writes a file into the modem's file system.
+ *  @{
+ */
+/**
+ * Builds the InjectEFSData (0x3E) request with its item 0x01: 18 + @c nameLength + @c dataLength bytes.
+ * The value is the name length, the name, the operation byte, the data length (u32), the part number, the total
+ * number of parts and the data.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 18 + @c nameLength + @c dataLength.
+ * @param file The file to write; required.
+ * @return 18 + @c nameLength + @c dataLength, the request length; ZOVQMI_ERR_ARG when @p buf or @p file is null, @p
+ *   bufsize is too small, or a nonzero length comes with a null pointer (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSInjectEFSDataReq(uint8_t* buf, int bufsize, const EFSFileRecord* file);
+/**
+ * Parses the InjectEFSData (0x3E) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x3E; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSInjectEFSDataResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* GetDPOConfig 0x3F */
+/** @defgroup pds_get_dpo_config GetDPOConfig (0x3F)
+ *  @ingroup svc_pds
+ *  @brief Reads the DPO (dynamic power optimisation) setting.
+ *  @{
+ */
+/**
+ * Builds the GetDPOConfig (0x3F) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSGetDPOConfigReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the GetDPOConfig (0x3F) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x3F; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSGetDPOConfigResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x10 of the GetDPOConfig (0x3F) response: the DPO setting (1 byte).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param config Receives the DPO setting; required.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x3F; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSGetDPOConfigRespGetDPOConfiguration(const uint8_t* msg, int len, uint8_t* config);
+/** @} */
 
-/* SetDPOConfig 0x40 */
+/** @defgroup pds_set_dpo_config SetDPOConfig (0x40)
+ *  @ingroup svc_pds
+ *  @brief Sets the DPO (dynamic power optimisation) setting.
+ *  @{
+ */
+/**
+ * Builds the SetDPOConfig (0x40) request header, which optional items may follow.
+ * The items are appended with zovQMIPDSSetDPOConfigReqAddDPOConfiguration.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSSetDPOConfigReq(uint8_t* buf, int bufsize);
+/**
+ * Appends item 0x10 (1 byte), the DPO setting, to a SetDPOConfig (0x40) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param config DPO setting.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetDPOConfigReqAddDPOConfiguration(uint8_t* buf, int bufsize, uint8_t config);
+/**
+ * Parses the SetDPOConfig (0x40) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x40; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSSetDPOConfigResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* GetODPConfig 0x41 */
+/** @defgroup pds_get_odp_config GetODPConfig (0x41)
+ *  @ingroup svc_pds
+ *  @brief Reads the ODP (on-demand positioning) setting.
+ *  @{
+ */
+/**
+ * Builds the GetODPConfig (0x41) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSGetODPConfigReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the GetODPConfig (0x41) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x41; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSGetODPConfigResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x10 of the GetODPConfig (0x41) response: the ODP setting (1 byte).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param config Receives the ODP setting; required.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x41; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPDSGetODPConfigRespGetODPConfiguration(const uint8_t* msg, int len, uint8_t* config);
+/** @} */
 
-/* SetODPConfig 0x42 */
+/** @defgroup pds_set_odp_config SetODPConfig (0x42)
+ *  @ingroup svc_pds
+ *  @brief Sets the ODP (on-demand positioning) setting.
+ *  @{
+ */
+/**
+ * Builds the SetODPConfig (0x42) request header, which optional items may follow.
+ * The items are appended with zovQMIPDSSetODPConfigReqAddODPConfiguration.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPDSSetODPConfigReq(uint8_t* buf, int bufsize);
+/**
+ * Appends item 0x10 (1 byte), the ODP setting, to a SetODPConfig (0x42) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param config ODP setting.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPDSSetODPConfigReqAddODPConfiguration(uint8_t* buf, int bufsize, uint8_t config);
+/**
+ * Parses the SetODPConfig (0x42) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x42; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPDSSetODPConfigResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
 /* ------------------------------------------------------------ end PDS -- */
 
