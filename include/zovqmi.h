@@ -1073,9 +1073,9 @@ typedef struct SatelliteInformationEntry {
 
 /**
  * A parsed position fix, the value of EventReport item 0x13, copied as it is on the wire (105 bytes).
- * Multi-byte fields hold little-endian bytes on every host.  The 64-bit fields are raw bits (two 32-bit halves,
- * low half first); latitude and longitude are IEEE doubles at the modem.  The values are the modem's, passed
- * through unchanged.
+ * Multi-byte fields hold little-endian bytes on every host.  The 64-bit fields are raw bits (two 32-bit halves, low
+ * half first); latitude and longitude are IEEE doubles at the modem.  The values are the modem's, passed through
+ * unchanged.
  * @ingroup pds_event_report
  */
 typedef struct ParsedPositionData {
@@ -1147,7 +1147,6 @@ typedef struct GPSStateInformation {
     uint16_t xtraValidHours; /**< Hours for which the XTRA data is valid (u16). */
 } GPSStateInformation;
 
-
 /**
  * A network-initiated VX prompt (EventReport item 0x18) or its answer (SendNIResponse item 0x10).
  * 21 bytes on 32-bit hosts.  On the wire the fields up to @c dataLength follow in order, then @c dataLength data
@@ -1169,9 +1168,9 @@ typedef struct NetworkInitiatedPromptVX {
 
 /**
  * A network-initiated SUPL prompt (EventReport item 0x19) or its answer (SendNIResponse item 0x11).
- * 319 bytes on 32-bit hosts.  On the wire the fields follow in order and each length byte is followed directly
- * by that many bytes: 56 + @c length1 + @c length2 + @c length3 bytes.  Multi-byte fields hold little-endian bytes
- * on every host; @c sessionId is raw 64-bit.
+ * 319 bytes on 32-bit hosts.  On the wire the fields follow in order and each length byte is followed directly by
+ * that many bytes: 56 + @c length1 + @c length2 + @c length3 bytes.  Multi-byte fields hold little-endian bytes on
+ * every host; @c sessionId is raw 64-bit.
  * @ingroup svc_pds
  */
 typedef struct NetworkInitiatedPromptSUPL {
@@ -1287,13 +1286,14 @@ ZOVQMI_API int zovQMIPDSResetResp(const uint8_t* msg, int len, QmiResult* result
 /** @defgroup pds_set_event_report SetEventReport (0x01)
  *  @ingroup svc_pds
  *  @brief Chooses which reports the EventReport indication delivers.
+ *
  *  Each subscription item is numbered one lower than the indication item it enables, and 0x11 is skipped.
  *  @{
  */
 /**
  * Builds the SetEventReport (0x01) request header, which optional items may follow.
- * The items are appended with the zovQMIPDSSetEventReportReqAdd functions.
- * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * The items are appended with the zovQMIPDSSetEventReportReqAdd functions. Writes 7 bytes: control flags 0, the
+ * next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
  * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
@@ -1428,6 +1428,7 @@ ZOVQMI_API int zovQMIPDSSetEventReportResp(const uint8_t* msg, int len, QmiResul
  *  @ingroup svc_pds
  *  @brief Delivers NMEA sentences, position fixes, satellite data, assistance-data requests and network-initiated
  *    prompts.
+ *
  *  Every item is optional; fetch each with its getter.
  *  @{
  */
@@ -1797,8 +1798,8 @@ ZOVQMI_API int zovQMIPDSSetAutoTrackingStateResp(const uint8_t* msg, int len, Qm
  */
 /**
  * Builds the DetermineSinglePosition (0x35) request header, which optional items may follow.
- * The items are appended with the zovQMIPDSDetermineSinglePositionReqAdd functions.
- * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * The items are appended with the zovQMIPDSDetermineSinglePositionReqAdd functions. Writes 7 bytes: control flags
+ * 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
  * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
@@ -2158,8 +2159,8 @@ ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetEmbeddedXTRAClientState(const ui
  */
 /**
  * Builds the SetXTRAParameters (0x2C) request header, which optional items may follow.
- * The items are appended with the zovQMIPDSSetXTRAParametersReqAdd functions.
- * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * The items are appended with the zovQMIPDSSetXTRAParametersReqAdd functions. Writes 7 bytes: control flags 0, the
+ * next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
  * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
@@ -2307,8 +2308,8 @@ ZOVQMI_API int zovQMIPDSGetAGPSConfigRespGetAGPSLocationServerURL(const uint8_t*
  */
 /**
  * Builds the SetAGPSConfig (0x2F) request header, which optional items may follow.
- * The items are appended with the zovQMIPDSSetAGPSConfigReqAdd functions.
- * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * The items are appended with the zovQMIPDSSetAGPSConfigReqAdd functions. Writes 7 bytes: control flags 0, the next
+ * transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
  * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
@@ -2411,8 +2412,8 @@ ZOVQMI_API int zovQMIPDSSetCOMPortConfigResp(const uint8_t* msg, int len, QmiRes
  */
 /**
  * Builds the ResetGPSServiceData (0x34) request header, which optional items may follow.
- * The items are appended with the zovQMIPDSResetGPSServiceDataReqAdd functions.
- * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * The items are appended with the zovQMIPDSResetGPSServiceDataReqAdd functions. Writes 7 bytes: control flags 0,
+ * the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
  * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
@@ -2518,8 +2519,8 @@ ZOVQMI_API int zovQMIPDSInjectXTRADataResp(const uint8_t* msg, int len, QmiResul
  */
 /**
  * Builds the InjectPositionData (0x38) request header, which optional items may follow.
- * The items are appended with the zovQMIPDSInjectPositionDataReqAdd functions.
- * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * The items are appended with the zovQMIPDSInjectPositionDataReqAdd functions. Writes 7 bytes: control flags 0, the
+ * next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
  * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
@@ -2657,8 +2658,8 @@ ZOVQMI_API int zovQMIPDSInjectPositionDataResp(const uint8_t* msg, int len, QmiR
  */
 /**
  * Builds the InjectWiFiPositionData (0x39) request header, which optional items may follow.
- * The items are appended with the zovQMIPDSInjectWiFiPositionDataReqAdd functions.
- * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * The items are appended with the zovQMIPDSInjectWiFiPositionDataReqAdd functions. Writes 7 bytes: control flags 0,
+ * the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
  * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
@@ -2759,8 +2760,8 @@ ZOVQMI_API int zovQMIPDSGetSBASConfigRespGetSBASConfiguration(const uint8_t* msg
  */
 /**
  * Builds the SetSBASConfig (0x3B) request header, which optional items may follow.
- * The items are appended with zovQMIPDSSetSBASConfigReqAddSBASConfiguration.
- * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * The items are appended with zovQMIPDSSetSBASConfigReqAddSBASConfiguration. Writes 7 bytes: control flags 0, the
+ * next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
  * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
@@ -2795,8 +2796,8 @@ ZOVQMI_API int zovQMIPDSSetSBASConfigResp(const uint8_t* msg, int len, QmiResult
  */
 /**
  * Builds the InjectAbsTimeRef (0x3D) request header, which optional items may follow.
- * The items are appended with zovQMIPDSInjectAbsTimeRefReqAddAbsoluteTimeInjection.
- * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * The items are appended with zovQMIPDSInjectAbsTimeRefReqAddAbsoluteTimeInjection. Writes 7 bytes: control flags
+ * 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
  * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
@@ -2901,8 +2902,8 @@ ZOVQMI_API int zovQMIPDSGetDPOConfigRespGetDPOConfiguration(const uint8_t* msg, 
  */
 /**
  * Builds the SetDPOConfig (0x40) request header, which optional items may follow.
- * The items are appended with zovQMIPDSSetDPOConfigReqAddDPOConfiguration.
- * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * The items are appended with zovQMIPDSSetDPOConfigReqAddDPOConfiguration. Writes 7 bytes: control flags 0, the
+ * next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
  * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
@@ -2972,8 +2973,8 @@ ZOVQMI_API int zovQMIPDSGetODPConfigRespGetODPConfiguration(const uint8_t* msg, 
  */
 /**
  * Builds the SetODPConfig (0x42) request header, which optional items may follow.
- * The items are appended with zovQMIPDSSetODPConfigReqAddODPConfiguration.
- * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * The items are appended with zovQMIPDSSetODPConfigReqAddODPConfiguration. Writes 7 bytes: control flags 0, the
+ * next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
  * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
@@ -3005,234 +3006,1156 @@ ZOVQMI_API int zovQMIPDSSetODPConfigResp(const uint8_t* msg, int len, QmiResult*
 
 
 /* ---------------------------------------------------------------- PBM -- */
+/** @defgroup svc_pbm PBM: phonebook manager service (service 12)
+ *  @brief The phonebooks on the card and in the modem: capabilities, records, groups, emergency numbers and
+ *  phonebook state.
+ */
 
 #pragma pack(push, 1)
 
-/* PBM: a text slot: length, then up to 242 bytes of text.  243 bytes. */
+/**
+ * A text slot: a length byte, then up to 242 bytes of text, verbatim (no terminator, no conversion).  243 bytes.
+ * @ingroup svc_pbm
+ */
 typedef struct PBMTextSlot {
-    uint8_t length;
-    uint8_t text[242];
+    uint8_t length; /**< Number of text bytes. */
+    uint8_t text[242]; /**< The text bytes. */
 } PBMTextSlot;
 
-/* PBM: a number slot: two attributes, length, up to 40 number bytes and a
- * trailing attribute (carried only for additional numbers).  44 bytes. */
+/**
+ * A number slot: two attribute bytes, a length byte, up to 40 number bytes and a trailing attribute.  44 bytes.
+ * The bytes are carried verbatim.
+ * @ingroup svc_pbm
+ */
 typedef struct PBMNumberSlot {
-    uint8_t attribute1;
-    uint8_t attribute2;
-    uint8_t length;
-    uint8_t number[40];
-    uint8_t trailingAttribute;
+    uint8_t attribute1; /**< First number attribute. */
+    uint8_t attribute2; /**< Second number attribute. */
+    uint8_t length; /**< Number of bytes in @c number. */
+    uint8_t number[40]; /**< The number bytes. */
+    uint8_t trailingAttribute; /**< Trailing attribute, carried only for additional numbers (item 0x11). */
 } PBMNumberSlot;
 
-/* Up to 10 phonebook records as delivered by the record-read indication and
- * its optional arrays, and as read by the write-record request.  Record i is
- * the i-th record of the indication.  Several parsers fill the same set: each
- * writes its own arrays and shares the count and record-id slots.  Two-byte
- * fields are little-endian bytes.  9216 bytes. */
+/**
+ * Up to 10 phonebook records, as delivered by the RecordRead indication and its optional arrays; record 0 is also
+ * the source of the WriteRecord request.  9216 bytes, caller-owned. Record i is the i-th record of the indication.
+ * Several parsers fill the same set: each writes its own arrays and all of them share the count and record-id
+ * slots.  Two-byte fields are little-endian bytes on every host.  Counts and lengths from the wire are used as they
+ * stand, so a long text or a large count is written on into the following slots, up to the set's last byte.
+ * @ingroup svc_pbm
+ */
 typedef struct PBMRecordSet {
-    uint8_t leadingWord[2];           /*    0 */
-    uint8_t selectorByte;             /*    2 */
-    uint8_t selectorWord[2];          /*    3 */
-    uint8_t recordCount;              /*    5 */
-    uint8_t recordId[10][2];          /*    6 */
-    uint8_t numberCount[10];          /*   26 */
-    PBMNumberSlot numbers[10][4];     /*   36; slot 0 is the primary number */
-    PBMTextSlot name[10];             /* 1796 */
-    uint8_t groupIdCount[10];         /* 4226 */
-    uint8_t groupIds[10][10];         /* 4236 */
-    uint8_t emailCount[10];           /* 4336 */
-    PBMTextSlot emails[10][2];        /* 4346 */
-    uint8_t hidden[10];               /* 9206 */
+    uint8_t leadingWord[2]; /**< Offset 0: leading word of item 0x01 (little-endian bytes). */
+    uint8_t selectorByte; /**< Offset 2: selector byte of the phonebook. */
+    uint8_t selectorWord[2]; /**< Offset 3: selector word of the phonebook (little-endian bytes). */
+    uint8_t recordCount; /**< Offset 5: record count of the last item parsed into the set. */
+    uint8_t recordId[10][2]; /**< Offset 6: record id of record i (little-endian bytes). */
+    uint8_t numberCount[10]; /**< Offset 26: number count of record i (1 after the indication, the additional-number
+                                  count after item 0x11). */
+    PBMNumberSlot numbers[10][4]; /**< Offset 36: number slots of record i; slot 0 is the primary number. */
+    PBMTextSlot name[10]; /**< Offset 1796: name of record i (also the target of the second-name array). */
+    uint8_t groupIdCount[10]; /**< Offset 4226: number of group ids of record i. */
+    uint8_t groupIds[10][10]; /**< Offset 4236: group ids of record i. */
+    uint8_t emailCount[10]; /**< Offset 4336: number of e-mail addresses of record i. */
+    PBMTextSlot emails[10][2]; /**< Offset 4346: e-mail text slots of record i. */
+    uint8_t hidden[10]; /**< Offset 9206: hidden flag of record i. */
 } PBMRecordSet;
 
-/* The capabilities of up to 6 phonebooks (get all PB capabilities).  Each
- * array getter rewrites the count and the key bytes with its own values.
- * Basic-capability entries: u16, u16, u16 (little-endian bytes), u8, u8.
- * 451 bytes. */
+/**
+ * The capabilities of up to 6 phonebooks, as read by the GetAllPBCapabilities getters.  451 bytes, caller-owned.
+ * Entry i is the i-th phonebook of the item read.  Each array getter rewrites @c count and @c key with its own
+ * values.  Basic-capability entries are 8 bytes: three u16 as little-endian bytes, then two single bytes.
+ * @ingroup pbm_get_all_pb_capabilities
+ */
 typedef struct PBMAllCapabilities {
-    uint8_t count;                    /*   0 */
-    uint8_t key[6];                   /*   1 */
-    uint8_t basicCount[6];            /*   7 */
-    uint8_t basic[6][8][8];           /*  13 */
-    uint8_t group[6][2];              /* 397 */
-    uint8_t additionalNumber[6][3];   /* 409 */
-    uint8_t email[6][2];              /* 427 */
-    uint8_t secondName[6];            /* 439 */
-    uint8_t hiddenRecords[6];         /* 445 */
+    uint8_t count; /**< Offset 0: entry count of the last array parsed. */
+    uint8_t key[6]; /**< Offset 1: key byte of phonebook i. */
+    uint8_t basicCount[6]; /**< Offset 7: number of basic-capability entries of phonebook i. */
+    uint8_t basic[6][8][8]; /**< Offset 13: basic-capability entry j of phonebook i (8 bytes each). */
+    uint8_t group[6][2]; /**< Offset 397: group capability of phonebook i (2 bytes). */
+    uint8_t additionalNumber[6][3]; /**< Offset 409: additional-number capability of phonebook i (3 bytes). */
+    uint8_t email[6][2]; /**< Offset 427: e-mail capability of phonebook i (2 bytes). */
+    uint8_t secondName[6]; /**< Offset 439: second-name capability of phonebook i. */
+    uint8_t hiddenRecords[6]; /**< Offset 445: hidden-records capability of phonebook i. */
 } PBMAllCapabilities;
 
-/* One emergency number: attribute (set lists only), length, up to 6 bytes. */
+/**
+ * One emergency number: attribute, length and up to 6 number bytes.  8 bytes.
+ * @ingroup svc_pbm
+ */
 typedef struct PBMEmergencyNumber {
-    uint8_t attribute;
-    uint8_t length;
-    uint8_t number[6];
+    uint8_t attribute; /**< Attribute byte; written only by the emergency-number set parsers, left alone by the flat
+                            lists. */
+    uint8_t length; /**< Number of bytes in @c number. */
+    uint8_t number[6]; /**< The number bytes, verbatim. */
 } PBMEmergencyNumber;
 
-/* Up to 6 sets of up to 256 emergency numbers (card or network lists).
- * The reserved bytes are never written.  12745 bytes. */
+/**
+ * Up to 6 sets of up to 256 emergency numbers (the card or network lists).  12745 bytes, caller-owned.
+ * Set i is the i-th set of the item read; number j of set i lies at offset 457 + 2048 i + 8 j.
+ * @ingroup svc_pbm
+ */
 typedef struct PBMEmergencyNumberSets {
-    uint8_t count;                            /*   0 */
-    uint8_t key[6];                           /*   1 */
-    uint8_t reserved[444];                    /*   7 */
-    uint8_t numberCount[6];                   /* 451 */
-    PBMEmergencyNumber numbers[6][256];       /* 457 */
+    uint8_t count; /**< Offset 0: number of sets. */
+    uint8_t key[6]; /**< Offset 1: key byte of set i. */
+    uint8_t reserved[444]; /**< Offset 7: left untouched by the parsers (as long as the item holds at most 6 sets). */
+    uint8_t numberCount[6]; /**< Offset 451: number of emergency numbers in set i. */
+    PBMEmergencyNumber numbers[6][256]; /**< Offset 457: the emergency numbers of set i. */
 } PBMEmergencyNumberSets;
 
-/* Up to 6 sets of up to 40 phonebook groups.  58573 bytes. */
+/**
+ * Up to 6 sets of up to 40 phonebook groups, as read by GetAllGroups.  58573 bytes, caller-owned.
+ * Set i is the i-th set of the item read.
+ * @ingroup pbm_get_all_groups
+ */
 typedef struct PBMGroupsData {
-    uint8_t count;                    /*   0 */
-    uint8_t key[6];                   /*   1 */
-    uint8_t groupCount[6];            /*   7 */
-    uint8_t groupId[6][40];           /*  13 */
-    PBMTextSlot name[6][40];          /* 253 */
+    uint8_t count; /**< Offset 0: number of sets. */
+    uint8_t key[6]; /**< Offset 1: key byte of set i. */
+    uint8_t groupCount[6]; /**< Offset 7: number of groups in set i. */
+    uint8_t groupId[6][40]; /**< Offset 13: group id j of set i. */
+    PBMTextSlot name[6][40]; /**< Offset 253: name text slot of group j of set i. */
 } PBMGroupsData;
 
 #pragma pack(pop)
 
-/* Indication register 0x0001 */
+/** @defgroup pbm_indication_register IndicationRegister (0x0001)
+ *  @ingroup svc_pbm
+ *  @brief Chooses which phonebook indications this client receives.
+ *  @{
+ */
+/**
+ * Builds the IndicationRegister (0x0001) request with its item 0x01 (u32 mask): 14 bytes.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 14.
+ * @param mask Event registration mask: one bit per indication family (written little-endian).
+ * @return 14, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 14 (nothing is
+ *   written).
+ */
 ZOVQMI_API int zovQMIPBMIndicationRegisterReq(uint8_t* buf, int bufsize, uint32_t mask);
+/**
+ * Parses the IndicationRegister (0x0001) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPBMIndicationRegisterResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x10 of the IndicationRegister (0x0001) response: the registration mask in force (u32).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param mask Receives the mask (native); required.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMIndicationRegisterRespGetEventRegistrationMask(const uint8_t* msg, int len, uint32_t* mask);
+/** @} */
 
-/* Get PB capabilities 0x0002 */
+/** @defgroup pbm_get_pb_capabilities GetPBCapabilities (0x0002)
+ *  @ingroup svc_pbm
+ *  @brief Reads the capabilities of one phonebook.
+ *  @{
+ */
+/**
+ * Builds the GetPBCapabilities (0x0002) request with its item 0x01 (the phonebook selector, 3 bytes): 13 bytes.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 13.
+ * @param selectorByte Selector byte of the phonebook.
+ * @param selectorWord Selector word of the phonebook (written little-endian).
+ * @return 13, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 13 (nothing is
+ *   written).
+ */
 ZOVQMI_API int zovQMIPBMGetPBCapabilitiesReq(uint8_t* buf, int bufsize, uint8_t selectorByte, uint16_t selectorWord);
+/**
+ * Parses the GetPBCapabilities (0x0002) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0002; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPBMGetPBCapabilitiesResp(const uint8_t* msg, int len, QmiResult* result);
-/* basic: 8 bytes, three u16 and two u8 as little-endian bytes. */
+/**
+ * Reads item 0x10 of the GetPBCapabilities (0x0002) response: the basic information (9 bytes).
+ * @p first gets value byte 0; @p basic gets the next 8 bytes as they are: three u16 (little-endian), then two
+ *   bytes.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param first Receives the first byte; required.
+ * @param basic Caller buffer of 8 bytes; required.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0002; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetCapabilityBasicInformation(const uint8_t* msg, int len,
                                                                           uint8_t* first, uint8_t* basic);
+/**
+ * Reads item 0x11 of the GetPBCapabilities (0x0002) response: the group capability (2 bytes, copied as they are).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param capability Caller buffer of 2 bytes; required.
+ * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0002; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetGroupCapability(const uint8_t* msg, int len, uint8_t* capability);
+/**
+ * Reads item 0x12 of the GetPBCapabilities (0x0002) response: the additional-number capability (3 bytes, copied as
+ * they are).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param capability Caller buffer of 3 bytes; required.
+ * @return The value length of item 0x12; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0002; ZOVQMI_ERR_NO_TLV when item 0x12 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetAdditionalNumberCapability(const uint8_t* msg, int len,
                                                                           uint8_t* capability);
+/**
+ * Reads item 0x13 of the GetPBCapabilities (0x0002) response: the e-mail capability (2 bytes, copied as they are).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param capability Caller buffer of 2 bytes; required.
+ * @return The value length of item 0x13; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0002; ZOVQMI_ERR_NO_TLV when item 0x13 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetEmailCapability(const uint8_t* msg, int len, uint8_t* capability);
+/**
+ * Reads item 0x14 of the GetPBCapabilities (0x0002) response: the second-name capability (1 byte).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param capability Receives the byte; required.
+ * @return The value length of item 0x14; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0002; ZOVQMI_ERR_NO_TLV when item 0x14 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetSecondNameCapability(const uint8_t* msg, int len,
                                                                     uint8_t* capability);
+/**
+ * Reads item 0x15 of the GetPBCapabilities (0x0002) response: the hidden-records capability (1 byte).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param capability Receives the byte; required.
+ * @return The value length of item 0x15; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0002; ZOVQMI_ERR_NO_TLV when item 0x15 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetHiddenRecordsCapability(const uint8_t* msg, int len,
                                                                        uint8_t* capability);
+/** @} */
 
-/* Get all PB capabilities 0x0003 */
+/** @defgroup pbm_get_all_pb_capabilities GetAllPBCapabilities (0x0003)
+ *  @ingroup svc_pbm
+ *  @brief Reads the capabilities of every phonebook at once.
+ *
+ *  Each getter reads one array item into the same PBMAllCapabilities record.
+ *  @{
+ */
+/**
+ * Builds the GetAllPBCapabilities (0x0003) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the GetAllPBCapabilities (0x0003) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0003; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x10 of the GetAllPBCapabilities (0x0003) response: the basic information of every phonebook.
+ * Value: a count n, then per phonebook a key byte, an entry count m and m 8-byte entries, stored at @c key,
+ * @c basicCount and @c basic.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param caps Receives the count, the keys and the entries; required.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0003; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the getter rewrites @c count and @c key, which every array getter of this message shares.
+ * @note Deliberate: counts are used as they stand: more than 6 phonebooks or 8 entries run on into the following
+ *   fields of @p caps; a write past its end gives ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetCapabilityBasicInformationArray(const uint8_t* msg, int len,
                                                                                   PBMAllCapabilities* caps);
+/**
+ * Reads item 0x11 of the GetAllPBCapabilities (0x0003) response: the group capability of every phonebook.
+ * Value: a count n, then n entries of a key byte and 2 capability bytes, stored at @c key and @c group.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param caps Receives the count, the keys and the capabilities; required.
+ * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0003; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the getter rewrites @c count and @c key, which every array getter of this message shares.
+ * @note Deliberate: the count is used as it stands: more than 6 entries run on into the following fields of @p
+ *   caps; a write past its end gives ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetGroupCapabilityArray(const uint8_t* msg, int len,
                                                                        PBMAllCapabilities* caps);
+/**
+ * Reads item 0x12 of the GetAllPBCapabilities (0x0003) response: the additional-number capability of every
+ * phonebook.
+ * Value: a count n, then n entries of a key byte and 3 capability bytes, stored at @c key and @c additionalNumber.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param caps Receives the count, the keys and the capabilities; required.
+ * @return The value length of item 0x12; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0003; ZOVQMI_ERR_NO_TLV when item 0x12 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the getter rewrites @c count and @c key, which every array getter of this message shares.
+ * @note Deliberate: the count is used as it stands: more than 6 entries run on into the following fields of @p
+ *   caps; a write past its end gives ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetAdditionalNumberCapabilityArray(const uint8_t* msg, int len,
                                                                                   PBMAllCapabilities* caps);
+/**
+ * Reads item 0x13 of the GetAllPBCapabilities (0x0003) response: the e-mail capability of every phonebook.
+ * Value: a count n, then n entries of a key byte and 2 capability bytes, stored at @c key and @c email.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param caps Receives the count, the keys and the capabilities; required.
+ * @return The value length of item 0x13; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0003; ZOVQMI_ERR_NO_TLV when item 0x13 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the getter rewrites @c count and @c key, which every array getter of this message shares.
+ * @note Deliberate: the count is used as it stands: more than 6 entries run on into the following fields of @p
+ *   caps; a write past its end gives ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetEmailCapabilityArray(const uint8_t* msg, int len,
                                                                        PBMAllCapabilities* caps);
+/**
+ * Reads item 0x14 of the GetAllPBCapabilities (0x0003) response: the second-name capability of every phonebook.
+ * Value: a count n, then n entries of a key byte and 1 capability byte, stored at @c key and @c secondName.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param caps Receives the count, the keys and the capabilities; required.
+ * @return The value length of item 0x14; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0003; ZOVQMI_ERR_NO_TLV when item 0x14 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the getter rewrites @c count and @c key, which every array getter of this message shares.
+ * @note Deliberate: the count is used as it stands: more than 6 entries run on into the following fields of @p
+ *   caps; a write past its end gives ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetSecondNameCapabilityArray(const uint8_t* msg, int len,
                                                                             PBMAllCapabilities* caps);
+/**
+ * Reads item 0x15 of the GetAllPBCapabilities (0x0003) response: the hidden-records capability of every phonebook.
+ * Value: a count n, then n entries of a key byte and 1 capability byte, stored at @c key and @c hiddenRecords.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param caps Receives the count, the keys and the capabilities; required.
+ * @return The value length of item 0x15; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0003; ZOVQMI_ERR_NO_TLV when item 0x15 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the getter rewrites @c count and @c key, which every array getter of this message shares.
+ * @note Deliberate: the count is used as it stands: more than 6 entries write past @p caps; such a write is refused
+ *   with ZOVQMI_ERR_MALFORMED and nothing is written.
+ */
 ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetHiddenRecordsCapabilityArray(const uint8_t* msg, int len,
                                                                                PBMAllCapabilities* caps);
+/** @} */
 
-/* Read records 0x0004, and the record-read indication 0x0004 */
+/** @defgroup pbm_read_records ReadRecords (0x0004)
+ *  @ingroup svc_pbm
+ *  @brief Asks for a range of records; they arrive in RecordRead indications.
+ *  @{
+ */
+/**
+ * Builds the ReadRecords (0x0004) request with its item 0x01 (selector, first and last record id: 7 bytes): 17
+ * bytes.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 17.
+ * @param selectorByte Selector byte of the phonebook.
+ * @param selectorWord Selector word of the phonebook (written little-endian).
+ * @param startId First record id to read (written little-endian).
+ * @param endId Last record id to read (written little-endian).
+ * @return 17, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 17 (nothing is
+ *   written).
+ */
 ZOVQMI_API int zovQMIPBMReadRecordsReq(uint8_t* buf, int bufsize, uint8_t selectorByte, uint16_t selectorWord,
                                        uint16_t startId, uint16_t endId);
+/**
+ * Parses the ReadRecords (0x0004) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0004; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPBMReadRecordsResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x10 of the ReadRecords (0x0004) response: the number of records that will be delivered (u16).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param count Receives the number of records (native); required.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0004; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMReadRecordsRespGetNumberOfRecords(const uint8_t* msg, int len, uint16_t* count);
+/** @} */
+/** @defgroup pbm_record_read RecordRead (0x0004, indication)
+ *  @ingroup svc_pbm
+ *  @brief Delivers records asked for by ReadRecords, up to 10 at a time.
+ *
+ *  Item 0x01 carries the id, primary number and name of each record; the optional arrays add second names,
+ *  additional numbers, group ids, e-mail addresses and hidden flags.  All of them are read into one PBMRecordSet.
+ *  @{
+ */
+/**
+ * Parses the RecordRead (0x0004) indication: item 0x01, the records.
+ * Value: leading word, selector byte, selector word, record count n, then per record its id, two number attributes,
+ * number length and bytes, name length and bytes.  Set bytes 0-5 receive the leading fields and n; each record's
+ * id, primary number (number slot 0, number count 1) and name follow.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param set Receives the records; required.
+ * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0004; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: lengths and the record count are used as they stand: a number longer than 40 bytes, a name
+ *   longer than 242 bytes or more than 10 records are written on into the following slots of @p set; a write past
+ *   its end gives ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMIPBMRecordReadIND(const uint8_t* msg, int len, PBMRecordSet* set);
+/**
+ * Reads item 0x10 of the RecordRead (0x0004) indication: the second name of each record.
+ * Value: a count n, then per record its id, a length byte and the text; set byte 5 gets n, record i's id and its
+ * name slot the entry.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param set Receives the ids and the names; required.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0004; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the second names are stored in the name slots, replacing the names of item 0x01, and the count
+ *   and record ids are shared with item 0x01 and the other arrays.
+ * @note Deliberate: a text longer than 242 bytes or more than 10 records are written on into the following slots of
+ *   @p set; a write past its end gives ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofSecondNameInformation(const uint8_t* msg, int len, PBMRecordSet* set);
+/**
+ * Reads item 0x11 of the RecordRead (0x0004) indication: the additional numbers of each record.
+ * Value: a count n, then per record its id, a number count m and m numbers (two attributes, length, bytes, trailing
+ * attribute); record i's number count gets m and its number slots 0 to m-1 the numbers.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param set Receives the ids and the numbers; required.
+ * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0004; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the numbers are stored from number slot 0 on, replacing the primary number of item 0x01 and its
+ *   number count, and the count and record ids are shared with item 0x01 and the other arrays.
+ * @note Deliberate: more than 4 numbers, a number longer than 40 bytes or more than 10 records are written on into
+ *   the following slots of @p set; a write past its end gives ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofAdditionalNumberInformation(const uint8_t* msg, int len,
                                                                           PBMRecordSet* set);
+/**
+ * Reads item 0x12 of the RecordRead (0x0004) indication: the group ids of each record.
+ * Value: a count n, then per record its id, a count m and m id bytes, stored at @c groupIdCount and @c groupIds.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param set Receives the record ids and the group ids; required.
+ * @return The value length of item 0x12; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0004; ZOVQMI_ERR_NO_TLV when item 0x12 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the count and record ids are shared with item 0x01 and the other arrays.
+ * @note Deliberate: more than 10 group ids or more than 10 records are written on into the following slots of @p
+ *   set; a write past its end gives ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofGroupIDInformation(const uint8_t* msg, int len, PBMRecordSet* set);
+/**
+ * Reads item 0x13 of the RecordRead (0x0004) indication: the e-mail addresses of each record.
+ * Value: a count n, then per record its id, a count m and m texts (length byte and bytes), stored at @c emailCount
+ * and
+ * @c emails.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param set Receives the record ids and the addresses; required.
+ * @return The value length of item 0x13; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0004; ZOVQMI_ERR_NO_TLV when item 0x13 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the count and record ids are shared with item 0x01 and the other arrays.
+ * @note Deliberate: more than 2 addresses, a text longer than 242 bytes or more than 10 records are written on into
+ *   the following slots of @p set; a write past its end gives ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofEmailInformation(const uint8_t* msg, int len, PBMRecordSet* set);
+/**
+ * Reads item 0x14 of the RecordRead (0x0004) indication: the hidden flag of each record.
+ * Value: a count n, then per record its id and one flag byte, stored at @c hidden.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param set Receives the record ids and the flags; required.
+ * @return The value length of item 0x14; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0004; ZOVQMI_ERR_NO_TLV when item 0x14 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the count and record ids are shared with item 0x01 and the other arrays.
+ * @note Deliberate: the ids of records beyond the tenth are written on into the following fields of @p set; the
+ *   flag of an eleventh record would pass its end and gives ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofHiddenInformation(const uint8_t* msg, int len, PBMRecordSet* set);
+/** @} */
 
-/* Write record 0x0005: the record is record 0 of the set.  textSlot(s):
- * 243-byte text slots; numberSlots: 44-byte number slots. */
+/** @defgroup pbm_write_record WriteRecord (0x0005)
+ *  @ingroup svc_pbm
+ *  @brief Adds or replaces one record.
+ *  @{
+ */
+/**
+ * Builds the WriteRecord (0x0005) request with its item 0x01, taken from record 0 of @p set: 19 + L + K bytes.
+ * The value (9 + L + K bytes) is the selector byte, the selector word, the record id of record 0, the two
+ * attributes and length L of its primary number and the L number bytes, then its name length K and the K name
+ * bytes.  Other fields of the set are not read.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 19 + L + K.
+ * @param set The record to write (record 0); required.
+ * @return 19 + L + K, the request length; ZOVQMI_ERR_ARG when @p buf or @p set is null or @p bufsize is too small
+ *   (nothing is written).
+ * @note Deliberate: a number length above 40 is used as it stands and reads on past the number slot into the
+ *   following bytes of @p set.
+ */
 ZOVQMI_API int zovQMIPBMWriteRecordReq(uint8_t* buf, int bufsize, const PBMRecordSet* set);
+/**
+ * Appends item 0x10, the second name, to a WriteRecord (0x0005) request.
+ * The value is the slot's length byte and text: appends 4 + length bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param textSlot A 243-byte text slot (PBMTextSlot layout); required.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf or @p textSlot; ZOVQMI_ERR_NO_ROOM when the item
+ *   does not fit in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPBMWriteRecordReqAddSecondNameInformation(uint8_t* buf, int bufsize, const uint8_t* textSlot);
+/**
+ * Appends item 0x11, the additional numbers, to a WriteRecord (0x0005) request.
+ * The value is @p count, then per slot its two attributes, length L, the L number bytes and the trailing attribute:
+ * 1 + the sum of (L + 4) bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param count Number of number slots.
+ * @param numberSlots @p count consecutive 44-byte number slots (PBMNumberSlot layout); may be null only when @p
+ *   count is 0.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf, or a nonzero @p count with a null @p
+ *   numberSlots; ZOVQMI_ERR_NO_ROOM when the item does not fit in @p bufsize; ZOVQMI_ERR_MALFORMED when the value
+ *   would exceed 1024 bytes; the message is left as it was on failure.
+ */
 ZOVQMI_API int zovQMIPBMWriteRecordReqAddAdditionalNumberInformation(uint8_t* buf, int bufsize, uint8_t count,
                                                                     const uint8_t* numberSlots);
+/**
+ * Appends item 0x12, the group ids, to a WriteRecord (0x0005) request.
+ * The value is @p count, then the @p count id bytes: appends 4 + @p count bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param count Number of group ids.
+ * @param ids The group ids; may be null only when @p count is 0.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf, or a nonzero @p count with a null @p ids;
+ *   ZOVQMI_ERR_NO_ROOM when the item does not fit in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPBMWriteRecordReqAddGroupIDInformation(uint8_t* buf, int bufsize, uint8_t count,
                                                            const uint8_t* ids);
+/**
+ * Appends item 0x13, the e-mail addresses, to a WriteRecord (0x0005) request.
+ * The value is @p count, then per slot its length byte and text: 1 + the sum of (length + 1) bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param count Number of addresses.
+ * @param textSlots @p count consecutive 243-byte text slots (PBMTextSlot layout); may be null only when @p count is
+ *   0.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf, or a nonzero @p count with a null @p textSlots;
+ *   ZOVQMI_ERR_NO_ROOM when the item does not fit in @p bufsize; ZOVQMI_ERR_MALFORMED when the value would exceed
+ *   1024 bytes; the message is left as it was on failure.
+ */
 ZOVQMI_API int zovQMIPBMWriteRecordReqAddEmailInformation(uint8_t* buf, int bufsize, uint8_t count,
                                                          const uint8_t* textSlots);
+/**
+ * Appends item 0x14 (1 byte), the hidden flag, to a WriteRecord (0x0005) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param hidden 1: the record is hidden, 0: it is not.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPBMWriteRecordReqAddHiddenInformation(uint8_t* buf, int bufsize, uint8_t hidden);
+/**
+ * Parses the WriteRecord (0x0005) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0005; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPBMWriteRecordResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x10 of the WriteRecord (0x0005) response: the record information (u16).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param recordInfo Receives the record information (native); required.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0005; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMWriteRecordRespGetRecordInfo(const uint8_t* msg, int len, uint16_t* recordInfo);
+/** @} */
 
-/* Delete record 0x0006 */
+/** @defgroup pbm_delete_record DeleteRecord (0x0006)
+ *  @ingroup svc_pbm
+ *  @brief Deletes one record.
+ *  @{
+ */
+/**
+ * Builds the DeleteRecord (0x0006) request with its item 0x01 (selector and record id: 5 bytes): 15 bytes.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 15.
+ * @param selectorByte Selector byte of the phonebook.
+ * @param selectorWord Selector word of the phonebook (written little-endian).
+ * @param recordId Id of the record to delete (written little-endian).
+ * @return 15, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 15 (nothing is
+ *   written).
+ */
 ZOVQMI_API int zovQMIPBMDeleteRecordReq(uint8_t* buf, int bufsize, uint8_t selectorByte, uint16_t selectorWord,
                                         uint16_t recordId);
+/**
+ * Parses the DeleteRecord (0x0006) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0006; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPBMDeleteRecordResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x10 of the DeleteRecord (0x0006) response: the id of the record deleted (u16).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param recordId Receives the record id (native); required.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0006; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMDeleteRecordRespGetRecordID(const uint8_t* msg, int len, uint16_t* recordId);
+/** @} */
 
-/* Delete all PB records 0x0007 */
+/** @defgroup pbm_delete_all_pb_records DeleteAllPBRecords (0x0007)
+ *  @ingroup svc_pbm
+ *  @brief Deletes every record of one phonebook.
+ *  @{
+ */
+/**
+ * Builds the DeleteAllPBRecords (0x0007) request with its item 0x01 (the phonebook selector, 3 bytes): 13 bytes.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 13.
+ * @param selectorByte Selector byte of the phonebook.
+ * @param selectorWord Selector word of the phonebook (written little-endian).
+ * @return 13, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 13 (nothing is
+ *   written).
+ */
 ZOVQMI_API int zovQMIPBMDeleteAllPBRecordsReq(uint8_t* buf, int bufsize, uint8_t selectorByte,
                                               uint16_t selectorWord);
+/**
+ * Parses the DeleteAllPBRecords (0x0007) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0007; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPBMDeleteAllPBRecordsResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
-/* Search records 0x0008 */
+/** @defgroup pbm_search_records SearchRecords (0x0008)
+ *  @ingroup svc_pbm
+ *  @brief Finds the records that match a number or a name.
+ *  @{
+ */
+/**
+ * Builds the SearchRecords (0x0008) request with its item 0x01 (the phonebook selector, 3 bytes): 13 bytes.
+ * What to search for is appended with zovQMIPBMSearchRecordsReqAddNumberInformation or
+ * zovQMIPBMSearchRecordsReqAddNameInformation.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 13.
+ * @param selectorByte Selector byte of the phonebook.
+ * @param selectorWord Selector word of the phonebook (written little-endian).
+ * @return 13, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 13 (nothing is
+ *   written).
+ */
 ZOVQMI_API int zovQMIPBMSearchRecordsReq(uint8_t* buf, int bufsize, uint8_t selectorByte, uint16_t selectorWord);
+/**
+ * Appends item 0x10, the number to search for, to a SearchRecords (0x0008) request.
+ * The value is the length byte then @p length bytes: appends 4 + @p length bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param length Number of bytes in @p bytes.
+ * @param bytes The number bytes; may be null only when @p length is 0.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf, or a nonzero @p length with a null @p bytes;
+ *   ZOVQMI_ERR_NO_ROOM when the item does not fit in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPBMSearchRecordsReqAddNumberInformation(uint8_t* buf, int bufsize, uint8_t length,
                                                             const void* bytes);
+/**
+ * Appends item 0x11, the name to search for, to a SearchRecords (0x0008) request.
+ * The value is the length byte then @p length bytes: appends 4 + @p length bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param length Number of bytes in @p bytes.
+ * @param bytes The name bytes; may be null only when @p length is 0.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf, or a nonzero @p length with a null @p bytes;
+ *   ZOVQMI_ERR_NO_ROOM when the item does not fit in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIPBMSearchRecordsReqAddNameInformation(uint8_t* buf, int bufsize, uint8_t length,
                                                           const void* bytes);
+/**
+ * Parses the SearchRecords (0x0008) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0008; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPBMSearchRecordsResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x10 of the SearchRecords (0x0008) response: the ids of the matching records.
+ * Value: a u16 count, then that many u16 record ids.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param count Receives the number of ids (native); required.
+ * @param ids Caller array of @p count words that receives the ids (native); may be null, then only @p count is
+ *   delivered.  Its size is not checked.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0008; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMSearchRecordsRespGetRecordIDsList(const uint8_t* msg, int len, uint16_t* count,
                                                          uint16_t* ids);
+/** @} */
 
-/* Record update indication 0x0009 */
+/** @defgroup pbm_record_update RecordUpdate (0x0009, indication)
+ *  @ingroup svc_pbm
+ *  @brief Reports that a record was added, changed or deleted.
+ *  @{
+ */
+/**
+ * Parses the RecordUpdate (0x0009) indication: item 0x01 (u8, u16, u8, u16: 6 bytes), carried verbatim.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param first Receives the first byte; required.
+ * @param second Receives the first word (native); required.
+ * @param third Receives the second byte; required.
+ * @param fourth Receives the second word (native); required.
+ * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0009; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMRecordUpdateIND(const uint8_t* msg, int len, uint8_t* first, uint16_t* second,
                                         uint8_t* third, uint16_t* fourth);
+/** @} */
 
-/* Refresh indication 0x000A */
+/** @defgroup pbm_refresh Refresh (0x000A, indication)
+ *  @ingroup svc_pbm
+ *  @brief Reports a refresh of a phonebook.
+ *  @{
+ */
+/**
+ * Parses the Refresh (0x000A) indication: item 0x01 (u8, u16, u8: 4 bytes), carried verbatim.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param first Receives the first byte; required.
+ * @param second Receives the word (native); required.
+ * @param third Receives the last byte; required.
+ * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000A; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMRefreshIND(const uint8_t* msg, int len, uint8_t* first, uint16_t* second, uint8_t* third);
+/** @} */
 
-/* PB ready indication 0x000B */
+/** @defgroup pbm_pb_ready PBReady (0x000B, indication)
+ *  @ingroup svc_pbm
+ *  @brief Reports that a phonebook is ready.
+ *  @{
+ */
+/**
+ * Parses the PBReady (0x000B) indication: item 0x01, the phonebook selector (u8, u16: 3 bytes).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param selectorByte Receives the selector byte; required.
+ * @param selectorWord Receives the selector word (native); required.
+ * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000B; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMPBReadyIND(const uint8_t* msg, int len, uint8_t* selectorByte, uint16_t* selectorWord);
+/** @} */
 
-/* Emergency list indication 0x000C */
+/** @defgroup pbm_emergency_list EmergencyList (0x000C, indication)
+ *  @ingroup svc_pbm
+ *  @brief Reports the emergency numbers.
+ *  @{
+ */
+/**
+ * Parses the EmergencyList (0x000C) indication: item 0x01, a flat list of emergency numbers.
+ * Value: a count n, then per number a length byte L and L bytes; element i gets L at byte 1 and the number from
+ * byte 2, its attribute byte is left alone.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param count Receives n; required.
+ * @param numbers Caller array of n elements; may be null, then only @p count is delivered.  Its size is not
+ *   checked.
+ * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000C; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the walk keeps its offset in 8 bits, so a list longer than 255 bytes wraps back to its start.
+ * @note Deliberate: a number longer than 6 bytes is written on into the following element.
+ */
 ZOVQMI_API int zovQMIPBMEmergencyListIND(const uint8_t* msg, int len, uint8_t* count, PBMEmergencyNumber* numbers);
+/**
+ * Reads item 0x10 of the EmergencyList (0x000C) indication: the numbers stored in the modem, a flat list.
+ * Value and storage as for item 0x01 (zovQMIPBMEmergencyListIND).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param count Receives the number count; required.
+ * @param numbers Caller array of @p count elements; may be null, then only @p count is delivered.  Its size is not
+ *   checked.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000C; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the walk keeps its offset in 8 bits, so a list longer than 255 bytes wraps back to its start.
+ * @note Deliberate: a number longer than 6 bytes is written on into the following element.
+ */
 ZOVQMI_API int zovQMIPBMEmergencyListINDGetNVEmergencyNumbers(const uint8_t* msg, int len, uint8_t* count,
                                                              PBMEmergencyNumber* numbers);
+/**
+ * Reads item 0x11 of the EmergencyList (0x000C) indication: the card's emergency numbers, in sets.
+ * Value: a set count n; per set a key byte, a number count m and m numbers (attribute, length L, L bytes).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param sets Receives the sets; required.
+ * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000C; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: counts and lengths are used as they stand: a number longer than 6 bytes, more than 256 numbers
+ *   or more than 6 sets are written on into the following bytes of @p sets; a write past its end gives
+ *   ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMIPBMEmergencyListINDGetCardEmergencyNumbers(const uint8_t* msg, int len,
                                                                PBMEmergencyNumberSets* sets);
+/**
+ * Reads item 0x12 of the EmergencyList (0x000C) indication: the network's emergency numbers, in sets.
+ * Value and storage as for item 0x11 (zovQMIPBMEmergencyListINDGetCardEmergencyNumbers).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param sets Receives the sets; required.
+ * @return The value length of item 0x12; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000C; ZOVQMI_ERR_NO_TLV when item 0x12 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: counts and lengths are used as they stand: a number longer than 6 bytes, more than 256 numbers
+ *   or more than 6 sets are written on into the following bytes of @p sets; a write past its end gives
+ *   ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMIPBMEmergencyListINDGetNetworkEmergencyNumbers(const uint8_t* msg, int len,
                                                                   PBMEmergencyNumberSets* sets);
+/** @} */
 
-/* All PB init done indication 0x000D */
+/** @defgroup pbm_all_pb_init_done AllPBInitDone (0x000D, indication)
+ *  @ingroup svc_pbm
+ *  @brief Reports that every phonebook is initialised.
+ *  @{
+ */
+/**
+ * Parses the AllPBInitDone (0x000D) indication: item 0x01, a count n and n entries of a key byte and a u16.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param count Receives n; required.
+ * @param keys Caller array of n bytes that receives the key bytes; may be null.
+ * @param words Caller array of n words that receives the words (native); may be null.
+ * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000D; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMAllPBInitDoneIND(const uint8_t* msg, int len, uint8_t* count, uint8_t* keys,
                                          uint16_t* words);
+/** @} */
 
-/* Get emergency list 0x000E */
+/** @defgroup pbm_get_emergency_list GetEmergencyList (0x000E)
+ *  @ingroup svc_pbm
+ *  @brief Reads the emergency numbers.
+ *  @{
+ */
+/**
+ * Builds the GetEmergencyList (0x000E) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPBMGetEmergencyListReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the GetEmergencyList (0x000E) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000E; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPBMGetEmergencyListResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x10 of the GetEmergencyList (0x000E) response: the hard-coded numbers, a flat list.
+ * Value: a count n, then per number a length byte L and L bytes; element i gets L at byte 1 and the number from
+ * byte 2, its attribute byte is left alone.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param count Receives n; required.
+ * @param numbers Caller array of n elements; may be null, then only @p count is delivered.  Its size is not
+ *   checked.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000E; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the walk keeps its offset in 8 bits, so a list longer than 255 bytes wraps back to its start.
+ * @note Deliberate: a number longer than 6 bytes is written on into the following element.
+ */
 ZOVQMI_API int zovQMIPBMGetEmergencyListRespGetHardCodedEmergencyNumbers(const uint8_t* msg, int len, uint8_t* count,
                                                                         PBMEmergencyNumber* numbers);
+/**
+ * Reads item 0x11 of the GetEmergencyList (0x000E) response: the numbers stored in the modem, a flat list.
+ * Value and storage as for item 0x10 (zovQMIPBMGetEmergencyListRespGetHardCodedEmergencyNumbers).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param count Receives the number count; required.
+ * @param numbers Caller array of @p count elements; may be null, then only @p count is delivered.  Its size is not
+ *   checked.
+ * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000E; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the walk keeps its offset in 8 bits, so a list longer than 255 bytes wraps back to its start.
+ * @note Deliberate: a number longer than 6 bytes is written on into the following element.
+ */
 ZOVQMI_API int zovQMIPBMGetEmergencyListRespGetNVEmergencyNumbers(const uint8_t* msg, int len, uint8_t* count,
                                                                  PBMEmergencyNumber* numbers);
+/**
+ * Reads item 0x12 of the GetEmergencyList (0x000E) response: the card's emergency numbers, in sets.
+ * Value: a set count n; per set a key byte, a number count m and m numbers (attribute, length L, L bytes).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param sets Receives the sets; required.
+ * @return The value length of item 0x12; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000E; ZOVQMI_ERR_NO_TLV when item 0x12 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: counts and lengths are used as they stand: a number longer than 6 bytes, more than 256 numbers
+ *   or more than 6 sets are written on into the following bytes of @p sets; a write past its end gives
+ *   ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMIPBMGetEmergencyListRespGetCardEmergencyNumbers(const uint8_t* msg, int len,
                                                                    PBMEmergencyNumberSets* sets);
+/**
+ * Reads item 0x13 of the GetEmergencyList (0x000E) response: the network's emergency numbers, in sets.
+ * Value and storage as for item 0x12 (zovQMIPBMGetEmergencyListRespGetCardEmergencyNumbers).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param sets Receives the sets; required.
+ * @return The value length of item 0x13; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000E; ZOVQMI_ERR_NO_TLV when item 0x13 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: counts and lengths are used as they stand: a number longer than 6 bytes, more than 256 numbers
+ *   or more than 6 sets are written on into the following bytes of @p sets; a write past its end gives
+ *   ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMIPBMGetEmergencyListRespGetNetworkEmergencyNumbers(const uint8_t* msg, int len,
                                                                       PBMEmergencyNumberSets* sets);
+/** @} */
 
-/* Get all groups 0x000F */
+/** @defgroup pbm_get_all_groups GetAllGroups (0x000F)
+ *  @ingroup svc_pbm
+ *  @brief Reads the groups of every phonebook.
+ *  @{
+ */
+/**
+ * Builds the GetAllGroups (0x000F) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIPBMGetAllGroupsReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the GetAllGroups (0x000F) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000F; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPBMGetAllGroupsResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x10 of the GetAllGroups (0x000F) response: the groups.
+ * Value: a set count n; per set a key byte, a group count m and m groups (id byte, name length L, L name bytes).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param groups Receives the sets; required.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000F; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: counts and lengths are used as they stand: a name longer than 242 bytes, more than 40 groups or
+ *   more than 6 sets are written on into the following bytes of @p groups; a write past its end gives
+ *   ZOVQMI_ERR_MALFORMED.
+ */
 ZOVQMI_API int zovQMIPBMGetAllGroupsRespGetGroupsData(const uint8_t* msg, int len, PBMGroupsData* groups);
+/** @} */
 
-/* Set group info 0x0010 (textSlot: a 243-byte text slot) */
+/** @defgroup pbm_set_group_info SetGroupInfo (0x0010)
+ *  @ingroup svc_pbm
+ *  @brief Adds, renames or deletes a group.
+ *  @{
+ */
+/**
+ * Builds the SetGroupInfo (0x0010) request with its item 0x01: 14 + length bytes.
+ * The value is @p first, @p second, @p third, then the slot's length byte and text: 4 + length bytes.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 14 + the text length.
+ * @param first First byte, carried verbatim.
+ * @param second Second byte, carried verbatim.
+ * @param third Third byte, carried verbatim.
+ * @param textSlot A 243-byte text slot (PBMTextSlot layout) with the group name; required.
+ * @return 14 + the text length, the request length; ZOVQMI_ERR_ARG when @p buf or @p textSlot is null or @p bufsize
+ *   is too small (nothing is written).
+ */
 ZOVQMI_API int zovQMIPBMSetGroupInfoReq(uint8_t* buf, int bufsize, uint8_t first, uint8_t second, uint8_t third,
                                         const uint8_t* textSlot);
+/**
+ * Parses the SetGroupInfo (0x0010) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0010; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPBMSetGroupInfoResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x10 of the SetGroupInfo (0x0010) response: the group identifier (2 bytes).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param first Receives the first byte; required.
+ * @param second Receives the second byte; required.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0010; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMSetGroupInfoRespGetGroupIdentifier(const uint8_t* msg, int len, uint8_t* first,
                                                           uint8_t* second);
+/** @} */
 
-/* Get PB state 0x0011 */
+/** @defgroup pbm_get_pb_state GetPBState (0x0011)
+ *  @ingroup svc_pbm
+ *  @brief Reads the state of one phonebook.
+ *  @{
+ */
+/**
+ * Builds the GetPBState (0x0011) request with its item 0x01 (the phonebook selector, 3 bytes): 13 bytes.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 13.
+ * @param selectorByte Selector byte of the phonebook.
+ * @param selectorWord Selector word of the phonebook (written little-endian).
+ * @return 13, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 13 (nothing is
+ *   written).
+ */
 ZOVQMI_API int zovQMIPBMGetPBStateReq(uint8_t* buf, int bufsize, uint8_t selectorByte, uint16_t selectorWord);
+/**
+ * Parses the GetPBState (0x0011) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0011; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPBMGetPBStateResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x10 of the GetPBState (0x0011) response: the phonebook state (u8, u16, u8), carried verbatim.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param first Receives the first byte; required.
+ * @param second Receives the word (native); required.
+ * @param third Receives the last byte; required.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0011; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMGetPBStateRespGetPhonebookState(const uint8_t* msg, int len, uint8_t* first,
                                                        uint16_t* second, uint8_t* third);
+/** @} */
 
-/* Read all hidden records 0x0012 */
+/** @defgroup pbm_read_all_hidden_records ReadAllHiddenRecords (0x0012)
+ *  @ingroup svc_pbm
+ *  @brief Asks for every hidden record.
+ *  @{
+ */
+/**
+ * Builds the ReadAllHiddenRecords (0x0012) request with its item 0x01 (1 byte): 11 bytes.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 11.
+ * @param value The byte of item 0x01, carried verbatim.
+ * @return 11, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 11 (nothing is
+ *   written).
+ */
 ZOVQMI_API int zovQMIPBMReadAllHiddenRecordsReq(uint8_t* buf, int bufsize, uint8_t value);
+/**
+ * Parses the ReadAllHiddenRecords (0x0012) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0012; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIPBMReadAllHiddenRecordsResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x10 of the ReadAllHiddenRecords (0x0012) response: the number of records (u16).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param count Receives the number of records (native); required.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0012; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMReadAllHiddenRecordsRespGetNumberofRecords(const uint8_t* msg, int len, uint16_t* count);
+/** @} */
 
-/* Hidden record status indication 0x0013 */
+/** @defgroup pbm_hidden_record_status HiddenRecordStatus (0x0013, indication)
+ *  @ingroup svc_pbm
+ *  @brief Reports the status of the hidden records.
+ *  @{
+ */
+/**
+ * Parses the HiddenRecordStatus (0x0013) indication: item 0x01 (2 bytes), carried verbatim.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param first Receives the first byte; required.
+ * @param second Receives the second byte; required.
+ * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0013; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIPBMHiddenRecordStatusIND(const uint8_t* msg, int len, uint8_t* first, uint8_t* second);
+/** @} */
 
 /* ------------------------------------------------------------ end PBM -- */
 
