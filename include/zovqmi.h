@@ -1258,13 +1258,13 @@ typedef struct EFSFileRecord {
 
 #pragma pack(pop)
 
-/** @defgroup pds_reset Reset (0x00)
+/** @defgroup pds_reset Reset (0x0000)
  *  @ingroup svc_pds
  *  @brief Resets the PDS state of this client.
  *  @{
  */
 /**
- * Builds the Reset (0x00) request header, which carries no items.
+ * Builds the Reset (0x0000) request header, which carries no items.
  * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
@@ -1272,18 +1272,18 @@ typedef struct EFSFileRecord {
  */
 ZOVQMI_API int zovQMIPDSResetReq(uint8_t* buf, int bufsize);
 /**
- * Parses the Reset (0x00) response: copies its result item 0x02.
+ * Parses the Reset (0x0000) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x00; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0000; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSResetResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_set_event_report SetEventReport (0x01)
+/** @defgroup pds_set_event_report SetEventReport (0x0001)
  *  @ingroup svc_pds
  *  @brief Chooses which reports the EventReport indication delivers.
  *
@@ -1291,7 +1291,7 @@ ZOVQMI_API int zovQMIPDSResetResp(const uint8_t* msg, int len, QmiResult* result
  *  @{
  */
 /**
- * Builds the SetEventReport (0x01) request header, which optional items may follow.
+ * Builds the SetEventReport (0x0001) request header, which optional items may follow.
  * The items are appended with the zovQMIPDSSetEventReportReqAdd functions. Writes 7 bytes: control flags 0, the
  * next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
@@ -1303,8 +1303,8 @@ ZOVQMI_API int zovQMIPDSResetResp(const uint8_t* msg, int len, QmiResult* result
  */
 ZOVQMI_API int zovQMIPDSSetEventReportReq(uint8_t* buf, int bufsize);
 /**
- * Appends item 0x10 (1 byte), the subscription to NMEA sentences (indication item 0x10), to a SetEventReport (0x01)
- * request.
+ * Appends item 0x10 (1 byte), the subscription to NMEA sentences (indication item 0x10), to a SetEventReport
+ * (0x0001) request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -1315,7 +1315,7 @@ ZOVQMI_API int zovQMIPDSSetEventReportReq(uint8_t* buf, int bufsize);
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddPositionDataNMEA(uint8_t* buf, int bufsize, uint8_t report);
 /**
  * Appends item 0x12 (1 byte), the subscription to parsed position data (indication item 0x13), to a SetEventReport
- * (0x01) request.
+ * (0x0001) request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -1326,7 +1326,7 @@ ZOVQMI_API int zovQMIPDSSetEventReportReqAddPositionDataNMEA(uint8_t* buf, int b
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddParsedPositionData(uint8_t* buf, int bufsize, uint8_t report);
 /**
  * Appends item 0x13 (1 byte), the subscription to XTRA data requests (indication item 0x14), to a SetEventReport
- * (0x01) request.
+ * (0x0001) request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -1337,7 +1337,7 @@ ZOVQMI_API int zovQMIPDSSetEventReportReqAddParsedPositionData(uint8_t* buf, int
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddExternalXTRADataRequest(uint8_t* buf, int bufsize, uint8_t report);
 /**
  * Appends item 0x14 (1 byte), the subscription to time injection requests (indication item 0x15), to a
- * SetEventReport (0x01) request.
+ * SetEventReport (0x0001) request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -1348,7 +1348,7 @@ ZOVQMI_API int zovQMIPDSSetEventReportReqAddExternalXTRADataRequest(uint8_t* buf
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddExternalTimeInjectionRequest(uint8_t* buf, int bufsize, uint8_t report);
 /**
  * Appends item 0x15 (1 byte), the subscription to WiFi position requests (indication item 0x16), to a
- * SetEventReport (0x01) request.
+ * SetEventReport (0x0001) request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -1359,7 +1359,7 @@ ZOVQMI_API int zovQMIPDSSetEventReportReqAddExternalTimeInjectionRequest(uint8_t
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddExternalWiFiPositionRequest(uint8_t* buf, int bufsize, uint8_t report);
 /**
  * Appends item 0x16 (1 byte), the subscription to satellite information (indication item 0x17), to a SetEventReport
- * (0x01) request.
+ * (0x0001) request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -1369,7 +1369,7 @@ ZOVQMI_API int zovQMIPDSSetEventReportReqAddExternalWiFiPositionRequest(uint8_t*
  */
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddSatelliteInformation(uint8_t* buf, int bufsize, uint8_t report);
 /**
- * Appends item 0x17 (1 byte), the subscription to VX prompts (indication item 0x18), to a SetEventReport (0x01)
+ * Appends item 0x17 (1 byte), the subscription to VX prompts (indication item 0x18), to a SetEventReport (0x0001)
  * request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
@@ -1380,7 +1380,7 @@ ZOVQMI_API int zovQMIPDSSetEventReportReqAddSatelliteInformation(uint8_t* buf, i
  */
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddNetworkInitiatedPromptVX(uint8_t* buf, int bufsize, uint8_t report);
 /**
- * Appends item 0x18 (1 byte), the subscription to SUPL prompts (indication item 0x19), to a SetEventReport (0x01)
+ * Appends item 0x18 (1 byte), the subscription to SUPL prompts (indication item 0x19), to a SetEventReport (0x0001)
  * request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
@@ -1392,7 +1392,7 @@ ZOVQMI_API int zovQMIPDSSetEventReportReqAddNetworkInitiatedPromptVX(uint8_t* bu
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddNetworkInitiatedPromptSUPL(uint8_t* buf, int bufsize, uint8_t report);
 /**
  * Appends item 0x19 (1 byte), the subscription to UMTS control-plane prompts (indication item 0x1A), to a
- * SetEventReport (0x01) request.
+ * SetEventReport (0x0001) request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -1403,7 +1403,7 @@ ZOVQMI_API int zovQMIPDSSetEventReportReqAddNetworkInitiatedPromptSUPL(uint8_t* 
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddNetworkInitiatedPromptUMTSCP(uint8_t* buf, int bufsize, uint8_t report);
 /**
  * Appends item 0x1A (1 byte), the subscription to communication events (indication item 0x1B), to a SetEventReport
- * (0x01) request.
+ * (0x0001) request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -1413,18 +1413,18 @@ ZOVQMI_API int zovQMIPDSSetEventReportReqAddNetworkInitiatedPromptUMTSCP(uint8_t
  */
 ZOVQMI_API int zovQMIPDSSetEventReportReqAddPDSCommEvents(uint8_t* buf, int bufsize, uint8_t report);
 /**
- * Parses the SetEventReport (0x01) response: copies its result item 0x02.
+ * Parses the SetEventReport (0x0001) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_event_report EventReport (0x01, indication)
+/** @defgroup pds_event_report EventReport (0x0001, indication)
  *  @ingroup svc_pds
  *  @brief Delivers NMEA sentences, position fixes, satellite data, assistance-data requests and network-initiated
  *    prompts.
@@ -1433,48 +1433,48 @@ ZOVQMI_API int zovQMIPDSSetEventReportResp(const uint8_t* msg, int len, QmiResul
  *  @{
  */
 /**
- * Checks that a buffer holds the EventReport (0x01) indication; reads no item.
+ * Checks that a buffer holds the EventReport (0x0001) indication; reads no item.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg; ZOVQMI_ERR_NO_MESSAGE when @p msg
- *   holds no message 0x01.
+ *   holds no message 0x0001.
  */
 ZOVQMI_API int zovQMIPDSEventReportIND(const uint8_t* msg, int len);
 /**
- * Reads item 0x10 of the EventReport (0x01) indication: the NMEA sentence(s), the whole value as it is.
+ * Reads item 0x10 of the EventReport (0x0001) indication: the NMEA sentence(s), the whole value as it is.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param length Receives the value length in bytes (native); required.
  * @param data Caller buffer of at least the item's length that receives the bytes (no terminator added); may be
  *   null, then only @p length is delivered.  Nothing is copied for an empty item.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSEventReportINDGetPositionDataNMEA(const uint8_t* msg, int len, uint16_t* length, void* data);
 /**
- * Reads item 0x12 of the EventReport (0x01) indication: the position session status (1 byte).
+ * Reads item 0x12 of the EventReport (0x0001) indication: the position session status (1 byte).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param status Receives the session status code as the modem sends it; required.
  * @return The value length of item 0x12; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x12 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x12 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSEventReportINDGetPositionSessionStatus(const uint8_t* msg, int len, uint8_t* status);
 /**
- * Reads item 0x13 of the EventReport (0x01) indication: a parsed position fix.
+ * Reads item 0x13 of the EventReport (0x0001) indication: a parsed position fix.
  * Copies 105 bytes as they are into @p data, whatever the item's length says.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param data Receives the fix, laid out as on the wire; required.
  * @return The value length of item 0x13; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x13 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x13 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSEventReportINDGetParsedPositionData(const uint8_t* msg, int len, ParsedPositionData* data);
 /**
- * Reads item 0x14 of the EventReport (0x01) indication: the modem asks for XTRA data.
+ * Reads item 0x14 of the EventReport (0x0001) indication: the modem asks for XTRA data.
  * Value: u16 maximum file size, a count, then count entries of a length byte and that many bytes (the servers to
  * fetch from).
  * @param msg Received message (QMUX header removed); required.
@@ -1485,14 +1485,14 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetParsedPositionData(const uint8_t* msg, 
  *   that entry's bytes); may be null, then only @p maxFileSize and @p count are delivered.  The array's size is not
  *   checked: it must hold the count the modem sends (up to 255).
  * @return The value length of item 0x14; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x14 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x14 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSEventReportINDGetExternalXTRADatabaseRequest(const uint8_t* msg, int len,
                                                                     uint16_t* maxFileSize, uint8_t* count,
                                                                     LengthPrefixedEntry* entries);
 /**
- * Reads item 0x15 of the EventReport (0x01) indication: the modem asks for a time injection.
+ * Reads item 0x15 of the EventReport (0x0001) indication: the modem asks for a time injection.
  * Value: u32 delay threshold, a count, then count entries of a length byte and that many bytes (the time servers).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
@@ -1502,26 +1502,26 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetExternalXTRADatabaseRequest(const uint8
  *   that entry's bytes); may be null, then only @p delayThreshold and @p count are delivered.  The array's size is
  *   not checked.
  * @return The value length of item 0x15; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x15 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x15 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSEventReportINDGetExternalTimeInjectionRequest(const uint8_t* msg, int len,
                                                                      uint32_t* delayThreshold, uint8_t* count,
                                                                      LengthPrefixedEntry* entries);
 /**
- * Reads item 0x16 of the EventReport (0x01) indication: the modem asks for WiFi positions.
+ * Reads item 0x16 of the EventReport (0x0001) indication: the modem asks for WiFi positions.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param request Receives the request byte (start or stop, as the modem sends it); required.
  * @param interval Receives the requested interval (u16, native); required.
  * @return The value length of item 0x16; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x16 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x16 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSEventReportINDGetExternalWiFiPositionRequest(const uint8_t* msg, int len, uint8_t* request,
                                                                     uint16_t* interval);
 /**
- * Reads item 0x17 of the EventReport (0x01) indication: the satellites in view.
+ * Reads item 0x17 of the EventReport (0x0001) indication: the satellites in view.
  * Value: u32 valid mask, ionosphere byte, a count, then count 18-byte entries copied as they are.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
@@ -1531,21 +1531,21 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetExternalWiFiPositionRequest(const uint8
  * @param entries Caller array of @p count entries; may be null, then only the leading fields and @p count are
  *   delivered.  Its size is not checked.
  * @return The value length of item 0x17; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x17 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x17 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSEventReportINDGetSatelliteInformation(const uint8_t* msg, int len, uint32_t* validMask,
                                                              uint8_t* iono, uint8_t* count,
                                                              SatelliteInformationEntry* entries);
 /**
- * Reads item 0x18 of the EventReport (0x01) indication: a network-initiated VX prompt.
+ * Reads item 0x18 of the EventReport (0x0001) indication: a network-initiated VX prompt.
  * The fields are read in record order; @c data receives the bytes when the pointer in @p prompt is set.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param prompt Receives the prompt; its @c data pointer is set by the caller beforehand (null: the bytes are not
  *   copied); required.
  * @return The value length of item 0x18; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x18 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x18 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  * @note Deliberate: the record is read at its own layout whatever the item's length says, so a short item is read
  *   on into the bytes that follow it in @p msg.
@@ -1553,14 +1553,14 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetSatelliteInformation(const uint8_t* msg
 ZOVQMI_API int zovQMIPDSEventReportINDGetNetworkInitiatedPromptVX(const uint8_t* msg, int len,
                                                                  NetworkInitiatedPromptVX* prompt);
 /**
- * Reads item 0x19 of the EventReport (0x01) indication: a network-initiated SUPL prompt.
+ * Reads item 0x19 of the EventReport (0x0001) indication: a network-initiated SUPL prompt.
  * The fields are read in record order; block 1 goes into the record, blocks 2 and 3 through its pointers when set.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param prompt Receives the prompt; its @c block2 and @c block3 pointers are set by the caller beforehand (null:
  *   not copied); required.
  * @return The value length of item 0x19; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x19 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x19 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  * @note Deliberate: the record is read at its own layout whatever the item's length says, so a short item is read
  *   on into the bytes that follow it in @p msg.
@@ -1568,7 +1568,7 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetNetworkInitiatedPromptVX(const uint8_t*
 ZOVQMI_API int zovQMIPDSEventReportINDGetNetworkInitiatedPromptSUPL(const uint8_t* msg, int len,
                                                                    NetworkInitiatedPromptSUPL* prompt);
 /**
- * Reads item 0x1A of the EventReport (0x01) indication: a network-initiated UMTS control-plane prompt.
+ * Reads item 0x1A of the EventReport (0x0001) indication: a network-initiated UMTS control-plane prompt.
  * The fields are read in record order; block 2 goes into the record, blocks 1, 3 and 4 through its pointers when
  * set.
  * @param msg Received message (QMUX header removed); required.
@@ -1576,7 +1576,7 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetNetworkInitiatedPromptSUPL(const uint8_
  * @param prompt Receives the prompt; its @c block1, @c block3 and @c block4 pointers are set by the caller
  *   beforehand (null: not copied); required.
  * @return The value length of item 0x1A; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x1A is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x1A is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  * @note Deliberate: the record is read at its own layout whatever the item's length says, so a short item is read
  *   on into the bytes that follow it in @p msg.
@@ -1584,36 +1584,36 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetNetworkInitiatedPromptSUPL(const uint8_
 ZOVQMI_API int zovQMIPDSEventReportINDGetNetworkInitiatedPromptUMTSCP(const uint8_t* msg, int len,
                                                                      NetworkInitiatedPromptUMTSCP* prompt);
 /**
- * Reads item 0x1B of the EventReport (0x01) indication: a communication event (2 bytes).
+ * Reads item 0x1B of the EventReport (0x0001) indication: a communication event (2 bytes).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param type Receives the event type; required.
  * @param state Receives the event state; required.
  * @return The value length of item 0x1B; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x1B is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x1B is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSEventReportINDGetPDSCommEvents(const uint8_t* msg, int len, uint8_t* type, uint8_t* state);
 /**
- * Reads item 0x1C of the EventReport (0x01) indication: the source of the position (u32).
+ * Reads item 0x1C of the EventReport (0x0001) indication: the source of the position (u32).
  * This item has no subscription item of its own.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param source Receives the position source (native); required.
  * @return The value length of item 0x1C; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x01; ZOVQMI_ERR_NO_TLV when item 0x1C is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x1C is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSEventReportINDGetPositionSource(const uint8_t* msg, int len, uint32_t* source);
 /** @} */
 
-/** @defgroup pds_get_gps_service_state GetGPSServiceState (0x20) and GPSServiceState (0x20, indication)
+/** @defgroup pds_get_gps_service_state GetGPSServiceState (0x0020) and GPSServiceState (0x0020, indication)
  *  @ingroup svc_pds
  *  @brief Reads whether the GPS service is on and its tracking state; the indication reports changes.
  *  @{
  */
 /**
- * Builds the GetGPSServiceState (0x20) request header, which carries no items.
+ * Builds the GetGPSServiceState (0x0020) request header, which carries no items.
  * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
@@ -1621,40 +1621,40 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetPositionSource(const uint8_t* msg, int 
  */
 ZOVQMI_API int zovQMIPDSGetGPSServiceStateReq(uint8_t* buf, int bufsize);
 /**
- * Parses the GetGPSServiceState (0x20) response: result item 0x02 and item 0x01 (2 bytes).
+ * Parses the GetGPSServiceState (0x0020) response: result item 0x02 and item 0x01 (2 bytes).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @param enabled Receives the service state: 0 disabled, 1 enabled; required.
  * @param trackingState Receives the tracking state as the modem sends it; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
- *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x20; ZOVQMI_ERR_NO_TLV when the
- *   result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
+ *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000020; ZOVQMI_ERR_NO_TLV when
+ *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
  *   then).
  */
 ZOVQMI_API int zovQMIPDSGetGPSServiceStateResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* enabled,
                                               uint8_t* trackingState);
 /**
- * Parses the GPSServiceState (0x20) indication: item 0x01 (2 bytes), as in the response.
+ * Parses the GPSServiceState (0x0020) indication: item 0x01 (2 bytes), as in the response.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param enabled Receives the service state: 0 disabled, 1 enabled; required.
  * @param trackingState Receives the tracking state as the modem sends it; required.
  * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x20; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000020; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSGPSServiceStateIND(const uint8_t* msg, int len, uint8_t* enabled, uint8_t* trackingState);
 /** @} */
 
-/** @defgroup pds_set_gps_service_state SetGPSServiceState (0x21)
+/** @defgroup pds_set_gps_service_state SetGPSServiceState (0x0021)
  *  @ingroup svc_pds
  *  @brief Switches the GPS service on or off.
  *  @{
  */
 /**
- * Builds the SetGPSServiceState (0x21) request with its item 0x01 (1 byte): 11 bytes.
+ * Builds the SetGPSServiceState (0x0021) request with its item 0x01 (1 byte): 11 bytes.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 11.
  * @param state 1: enable the GPS service, 0: disable it.
@@ -1663,24 +1663,24 @@ ZOVQMI_API int zovQMIPDSGPSServiceStateIND(const uint8_t* msg, int len, uint8_t*
  */
 ZOVQMI_API int zovQMIPDSSetGPSServiceStateReq(uint8_t* buf, int bufsize, uint8_t state);
 /**
- * Parses the SetGPSServiceState (0x21) response: copies its result item 0x02.
+ * Parses the SetGPSServiceState (0x0021) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x21; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0021; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetGPSServiceStateResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_get_default_tracking_session GetDefaultTrackingSession (0x29)
+/** @defgroup pds_get_default_tracking_session GetDefaultTrackingSession (0x0029)
  *  @ingroup svc_pds
  *  @brief Reads the default parameters of tracking sessions.
  *  @{
  */
 /**
- * Builds the GetDefaultTrackingSession (0x29) request header, which carries no items.
+ * Builds the GetDefaultTrackingSession (0x0029) request header, which carries no items.
  * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
@@ -1688,7 +1688,7 @@ ZOVQMI_API int zovQMIPDSSetGPSServiceStateResp(const uint8_t* msg, int len, QmiR
  */
 ZOVQMI_API int zovQMIPDSGetDefaultTrackingSessionReq(uint8_t* buf, int bufsize);
 /**
- * Parses the GetDefaultTrackingSession (0x29) response: result item 0x02 and item 0x01 (u8, u8, u32, u32: 10
+ * Parses the GetDefaultTrackingSession (0x0029) response: result item 0x02 and item 0x01 (u8, u8, u32, u32: 10
  * bytes).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
@@ -1698,8 +1698,8 @@ ZOVQMI_API int zovQMIPDSGetDefaultTrackingSessionReq(uint8_t* buf, int bufsize);
  * @param interval Receives the interval between fixes, in milliseconds (native); required.
  * @param accuracy Receives the accuracy threshold, in metres (native); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
- *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x29; ZOVQMI_ERR_NO_TLV when the
- *   result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
+ *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000029; ZOVQMI_ERR_NO_TLV when
+ *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
  *   then).
  */
@@ -1707,13 +1707,13 @@ ZOVQMI_API int zovQMIPDSGetDefaultTrackingSessionResp(const uint8_t* msg, int le
                                                      uint8_t* timeout, uint32_t* interval, uint32_t* accuracy);
 /** @} */
 
-/** @defgroup pds_set_default_tracking_session SetDefaultTrackingSession (0x2A)
+/** @defgroup pds_set_default_tracking_session SetDefaultTrackingSession (0x002A)
  *  @ingroup svc_pds
  *  @brief Sets the default parameters of tracking sessions.
  *  @{
  */
 /**
- * Builds the SetDefaultTrackingSession (0x2A) request with its item 0x01 (u8, u8, u32, u32: 10 bytes): 20 bytes.
+ * Builds the SetDefaultTrackingSession (0x002A) request with its item 0x01 (u8, u8, u32, u32: 10 bytes): 20 bytes.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 20.
  * @param mode Session operating mode.
@@ -1726,24 +1726,24 @@ ZOVQMI_API int zovQMIPDSGetDefaultTrackingSessionResp(const uint8_t* msg, int le
 ZOVQMI_API int zovQMIPDSSetDefaultTrackingSessionReq(uint8_t* buf, int bufsize, uint8_t mode, uint8_t timeout,
                                                     uint32_t interval, uint32_t accuracy);
 /**
- * Parses the SetDefaultTrackingSession (0x2A) response: copies its result item 0x02.
+ * Parses the SetDefaultTrackingSession (0x002A) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2A; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002A; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetDefaultTrackingSessionResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_get_auto_tracking_state GetAutoTrackingState (0x30)
+/** @defgroup pds_get_auto_tracking_state GetAutoTrackingState (0x0030)
  *  @ingroup svc_pds
  *  @brief Reads whether automatic tracking is on.
  *  @{
  */
 /**
- * Builds the GetAutoTrackingState (0x30) request header, which carries no items.
+ * Builds the GetAutoTrackingState (0x0030) request header, which carries no items.
  * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
@@ -1751,27 +1751,27 @@ ZOVQMI_API int zovQMIPDSSetDefaultTrackingSessionResp(const uint8_t* msg, int le
  */
 ZOVQMI_API int zovQMIPDSGetAutoTrackingStateReq(uint8_t* buf, int bufsize);
 /**
- * Parses the GetAutoTrackingState (0x30) response: result item 0x02 and item 0x01 (1 byte).
+ * Parses the GetAutoTrackingState (0x0030) response: result item 0x02 and item 0x01 (1 byte).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @param state Receives the automatic tracking state: 0 off, 1 on; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
- *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x30; ZOVQMI_ERR_NO_TLV when the
- *   result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
+ *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000030; ZOVQMI_ERR_NO_TLV when
+ *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
  *   then).
  */
 ZOVQMI_API int zovQMIPDSGetAutoTrackingStateResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* state);
 /** @} */
 
-/** @defgroup pds_set_auto_tracking_state SetAutoTrackingState (0x31)
+/** @defgroup pds_set_auto_tracking_state SetAutoTrackingState (0x0031)
  *  @ingroup svc_pds
  *  @brief Switches automatic tracking on or off.
  *  @{
  */
 /**
- * Builds the SetAutoTrackingState (0x31) request with its item 0x01 (1 byte): 11 bytes.
+ * Builds the SetAutoTrackingState (0x0031) request with its item 0x01 (1 byte): 11 bytes.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 11.
  * @param state 1: automatic tracking on, 0: off.
@@ -1780,24 +1780,24 @@ ZOVQMI_API int zovQMIPDSGetAutoTrackingStateResp(const uint8_t* msg, int len, Qm
  */
 ZOVQMI_API int zovQMIPDSSetAutoTrackingStateReq(uint8_t* buf, int bufsize, uint8_t state);
 /**
- * Parses the SetAutoTrackingState (0x31) response: copies its result item 0x02.
+ * Parses the SetAutoTrackingState (0x0031) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x31; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0031; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetAutoTrackingStateResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_determine_single_position DetermineSinglePosition (0x35)
+/** @defgroup pds_determine_single_position DetermineSinglePosition (0x0035)
  *  @ingroup svc_pds
  *  @brief Starts one position fix; the fix arrives in the EventReport indication.
  *  @{
  */
 /**
- * Builds the DetermineSinglePosition (0x35) request header, which optional items may follow.
+ * Builds the DetermineSinglePosition (0x0035) request header, which optional items may follow.
  * The items are appended with the zovQMIPDSDetermineSinglePositionReqAdd functions. Writes 7 bytes: control flags
  * 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
@@ -1806,7 +1806,7 @@ ZOVQMI_API int zovQMIPDSSetAutoTrackingStateResp(const uint8_t* msg, int len, Qm
  */
 ZOVQMI_API int zovQMIPDSDetermineSinglePositionReq(uint8_t* buf, int bufsize);
 /**
- * Appends item 0x10 (1 byte), the session mode, to a DetermineSinglePosition (0x35) request.
+ * Appends item 0x10 (1 byte), the session mode, to a DetermineSinglePosition (0x0035) request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -1816,7 +1816,7 @@ ZOVQMI_API int zovQMIPDSDetermineSinglePositionReq(uint8_t* buf, int bufsize);
  */
 ZOVQMI_API int zovQMIPDSDetermineSinglePositionReqAddSinglePositionMode(uint8_t* buf, int bufsize, uint8_t mode);
 /**
- * Appends item 0x11 (1 byte), the time-out, to a DetermineSinglePosition (0x35) request.
+ * Appends item 0x11 (1 byte), the time-out, to a DetermineSinglePosition (0x0035) request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -1826,7 +1826,7 @@ ZOVQMI_API int zovQMIPDSDetermineSinglePositionReqAddSinglePositionMode(uint8_t*
  */
 ZOVQMI_API int zovQMIPDSDetermineSinglePositionReqAddSinglePositionTimeout(uint8_t* buf, int bufsize, uint8_t timeout);
 /**
- * Appends item 0x12 (u32), the accuracy threshold, to a DetermineSinglePosition (0x35) request.
+ * Appends item 0x12 (u32), the accuracy threshold, to a DetermineSinglePosition (0x0035) request.
  * Appends 7 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -1837,24 +1837,24 @@ ZOVQMI_API int zovQMIPDSDetermineSinglePositionReqAddSinglePositionTimeout(uint8
 ZOVQMI_API int zovQMIPDSDetermineSinglePositionReqAddSinglePositionAccuracy(uint8_t* buf, int bufsize,
                                                                            uint32_t accuracy);
 /**
- * Parses the DetermineSinglePosition (0x35) response: copies its result item 0x02.
+ * Parses the DetermineSinglePosition (0x0035) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x35; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0035; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSDetermineSinglePositionResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_send_ni_response SendNIResponse (0x3C)
+/** @defgroup pds_send_ni_response SendNIResponse (0x003C)
  *  @ingroup svc_pds
  *  @brief Answers a network-initiated prompt.
  *  @{
  */
 /**
- * Builds the SendNIResponse (0x3C) request with its item 0x01 (1 byte), the user's answer: 11 bytes.
+ * Builds the SendNIResponse (0x003C) request with its item 0x01 (1 byte), the user's answer: 11 bytes.
  * The prompt answered is appended with one of the SendNIResponseReqAdd... functions.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 11.
@@ -1864,7 +1864,7 @@ ZOVQMI_API int zovQMIPDSDetermineSinglePositionResp(const uint8_t* msg, int len,
  */
 ZOVQMI_API int zovQMIPDSSendNIResponseReq(uint8_t* buf, int bufsize, uint8_t action);
 /**
- * Appends item 0x10, the VX prompt answered, to a SendNIResponse (0x3C) request.
+ * Appends item 0x10, the VX prompt answered, to a SendNIResponse (0x003C) request.
  * The value is the record's fields in order, then @c dataLength data bytes: 17 + @c dataLength bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -1875,7 +1875,7 @@ ZOVQMI_API int zovQMIPDSSendNIResponseReq(uint8_t* buf, int bufsize, uint8_t act
 ZOVQMI_API int zovQMIPDSSendNIResponseReqAddNetworkInitiatedPromptVX(uint8_t* buf, int bufsize,
                                                                     const NetworkInitiatedPromptVX* prompt);
 /**
- * Appends item 0x11, the SUPL prompt answered, to a SendNIResponse (0x3C) request.
+ * Appends item 0x11, the SUPL prompt answered, to a SendNIResponse (0x003C) request.
  * The value is the record's fields in order, each length byte followed by its block: 56 + @c length1 + @c length2 +
  * @c length3 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
@@ -1889,7 +1889,7 @@ ZOVQMI_API int zovQMIPDSSendNIResponseReqAddNetworkInitiatedPromptVX(uint8_t* bu
 ZOVQMI_API int zovQMIPDSSendNIResponseReqAddNetworkInitiatedPromptSUPL(uint8_t* buf, int bufsize,
                                                                       const NetworkInitiatedPromptSUPL* prompt);
 /**
- * Appends item 0x11, the UMTS control-plane prompt answered, to a SendNIResponse (0x3C) request.
+ * Appends item 0x11, the UMTS control-plane prompt answered, to a SendNIResponse (0x003C) request.
  * The value is the record's fields in order, each length byte followed by its block: 15 + @c length1 + ... + @c
  * length4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
@@ -1904,24 +1904,24 @@ ZOVQMI_API int zovQMIPDSSendNIResponseReqAddNetworkInitiatedPromptSUPL(uint8_t* 
 ZOVQMI_API int zovQMIPDSSendNIResponseReqAddNetworkInitiatedPromptUMTSCP(uint8_t* buf, int bufsize,
                                                                         const NetworkInitiatedPromptUMTSCP* prompt);
 /**
- * Parses the SendNIResponse (0x3C) response: copies its result item 0x02.
+ * Parses the SendNIResponse (0x003C) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x3C; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003C; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSendNIResponseResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_cancel_single_position CancelSinglePosition (0x43)
+/** @defgroup pds_cancel_single_position CancelSinglePosition (0x0043)
  *  @ingroup svc_pds
  *  @brief Cancels a running single position fix.
  *  @{
  */
 /**
- * Builds the CancelSinglePosition (0x43) request header, which carries no items.
+ * Builds the CancelSinglePosition (0x0043) request header, which carries no items.
  * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
@@ -1929,24 +1929,24 @@ ZOVQMI_API int zovQMIPDSSendNIResponseResp(const uint8_t* msg, int len, QmiResul
  */
 ZOVQMI_API int zovQMIPDSCancelSinglePositionReq(uint8_t* buf, int bufsize);
 /**
- * Parses the CancelSinglePosition (0x43) response: copies its result item 0x02.
+ * Parses the CancelSinglePosition (0x0043) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x43; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0043; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSCancelSinglePositionResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_get_gps_state_info GetGPSStateInfo (0x44)
+/** @defgroup pds_get_gps_state_info GetGPSStateInfo (0x0044)
  *  @ingroup svc_pds
  *  @brief Reads the engine's state: last position, time and the satellite masks.
  *  @{
  */
 /**
- * Builds the GetGPSStateInfo (0x44) request header, which carries no items.
+ * Builds the GetGPSStateInfo (0x0044) request header, which carries no items.
  * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
@@ -1954,36 +1954,36 @@ ZOVQMI_API int zovQMIPDSCancelSinglePositionResp(const uint8_t* msg, int len, Qm
  */
 ZOVQMI_API int zovQMIPDSGetGPSStateInfoReq(uint8_t* buf, int bufsize);
 /**
- * Parses the GetGPSStateInfo (0x44) response: copies its result item 0x02.
+ * Parses the GetGPSStateInfo (0x0044) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x44; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0044; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSGetGPSStateInfoResp(const uint8_t* msg, int len, QmiResult* result);
 /**
- * Reads item 0x10 of the GetGPSStateInfo (0x44) response: the engine state.
+ * Reads item 0x10 of the GetGPSStateInfo (0x0044) response: the engine state.
  * Copies 98 bytes as they are into @p info, whatever the item's length says.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param info Receives the state, laid out as on the wire; required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x44; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0044; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSGetGPSStateInfoRespGetGPSStateInformation(const uint8_t* msg, int len,
                                                                  GPSStateInformation* info);
 /** @} */
 
-/** @defgroup pds_get_nmea_config GetNMEAConfig (0x26)
+/** @defgroup pds_get_nmea_config GetNMEAConfig (0x0026)
  *  @ingroup svc_pds
  *  @brief Reads which NMEA sentences the modem emits and where.
  *  @{
  */
 /**
- * Builds the GetNMEAConfig (0x26) request header, which carries no items.
+ * Builds the GetNMEAConfig (0x0026) request header, which carries no items.
  * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
@@ -1991,7 +1991,7 @@ ZOVQMI_API int zovQMIPDSGetGPSStateInfoRespGetGPSStateInformation(const uint8_t*
  */
 ZOVQMI_API int zovQMIPDSGetNMEAConfigReq(uint8_t* buf, int bufsize);
 /**
- * Parses the GetNMEAConfig (0x26) response: result item 0x02 and item 0x01 (3 bytes).
+ * Parses the GetNMEAConfig (0x0026) response: result item 0x02 and item 0x01 (3 bytes).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
@@ -1999,8 +1999,8 @@ ZOVQMI_API int zovQMIPDSGetNMEAConfigReq(uint8_t* buf, int bufsize);
  * @param port Receives the output port; required.
  * @param reporting Receives the reporting rate setting; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
- *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x26; ZOVQMI_ERR_NO_TLV when the
- *   result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
+ *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000026; ZOVQMI_ERR_NO_TLV when
+ *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
  *   then).
  */
@@ -2008,13 +2008,13 @@ ZOVQMI_API int zovQMIPDSGetNMEAConfigResp(const uint8_t* msg, int len, QmiResult
                                          uint8_t* port, uint8_t* reporting);
 /** @} */
 
-/** @defgroup pds_set_nmea_config SetNMEAConfig (0x27)
+/** @defgroup pds_set_nmea_config SetNMEAConfig (0x0027)
  *  @ingroup svc_pds
  *  @brief Sets which NMEA sentences the modem emits and where.
  *  @{
  */
 /**
- * Builds the SetNMEAConfig (0x27) request with its item 0x01 (3 bytes): 13 bytes.
+ * Builds the SetNMEAConfig (0x0027) request with its item 0x01 (3 bytes): 13 bytes.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 13.
  * @param sentenceMask Bit mask of NMEA sentences to emit.
@@ -2026,24 +2026,24 @@ ZOVQMI_API int zovQMIPDSGetNMEAConfigResp(const uint8_t* msg, int len, QmiResult
 ZOVQMI_API int zovQMIPDSSetNMEAConfigReq(uint8_t* buf, int bufsize, uint8_t sentenceMask, uint8_t port,
                                         uint8_t reporting);
 /**
- * Parses the SetNMEAConfig (0x27) response: copies its result item 0x02.
+ * Parses the SetNMEAConfig (0x0027) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x27; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0027; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetNMEAConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_inject_relative_time_ref InjectRelativeTimeRef (0x28)
+/** @defgroup pds_inject_relative_time_ref InjectRelativeTimeRef (0x0028)
  *  @ingroup svc_pds
  *  @brief Injects a relative time reference.
  *  @{
  */
 /**
- * Builds the InjectRelativeTimeRef (0x28) request with its item 0x01 (64-bit time, u16: 10 bytes): 20 bytes.
+ * Builds the InjectRelativeTimeRef (0x0028) request with its item 0x01 (64-bit time, u16: 10 bytes): 20 bytes.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 20.
  * @param systemTime System time, written as raw 64-bit bits, two little-endian 32-bit halves, low half first.
@@ -2054,24 +2054,24 @@ ZOVQMI_API int zovQMIPDSSetNMEAConfigResp(const uint8_t* msg, int len, QmiResult
 ZOVQMI_API int zovQMIPDSInjectRelativeTimeRefReq(uint8_t* buf, int bufsize, uint64_t systemTime,
                                                 uint16_t discontinuities);
 /**
- * Parses the InjectRelativeTimeRef (0x28) response: copies its result item 0x02.
+ * Parses the InjectRelativeTimeRef (0x0028) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x28; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0028; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSInjectRelativeTimeRefResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_get_xtra_parameters GetXTRAParameters (0x2B)
+/** @defgroup pds_get_xtra_parameters GetXTRAParameters (0x002B)
  *  @ingroup svc_pds
  *  @brief Reads the XTRA assistance-data settings.
  *  @{
  */
 /**
- * Builds the GetXTRAParameters (0x2B) request header, which carries no items.
+ * Builds the GetXTRAParameters (0x002B) request header, which carries no items.
  * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
@@ -2079,29 +2079,29 @@ ZOVQMI_API int zovQMIPDSInjectRelativeTimeRefResp(const uint8_t* msg, int len, Q
  */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersReq(uint8_t* buf, int bufsize);
 /**
- * Parses the GetXTRAParameters (0x2B) response: copies its result item 0x02.
+ * Parses the GetXTRAParameters (0x002B) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2B; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002B; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersResp(const uint8_t* msg, int len, QmiResult* result);
 /**
- * Reads item 0x10 of the GetXTRAParameters (0x2B) response: automatic download (u8, u16).
+ * Reads item 0x10 of the GetXTRAParameters (0x002B) response: automatic download (u8, u16).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param enabled Receives 1 when automatic download is on, 0 when off; required.
  * @param interval Receives the download interval, in hours (native); required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2B; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002B; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseAutodownload(const uint8_t* msg, int len,
                                                                         uint8_t* enabled, uint16_t* interval);
 /**
- * Reads item 0x11 of the GetXTRAParameters (0x2B) response: the download medium configuration, a length byte then
+ * Reads item 0x11 of the GetXTRAParameters (0x002B) response: the download medium configuration, a length byte then
  * that many bytes.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
@@ -2109,56 +2109,56 @@ ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseAutodownload(const u
  * @param data Caller buffer of up to 255 bytes that receives the bytes; may be null, then only @p length is
  *   delivered.
  * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2B; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002B; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseDownloadMediumConfiguration(const uint8_t* msg, int len,
                                                                                        uint8_t* length, void* data);
 /**
- * Reads item 0x12 of the GetXTRAParameters (0x2B) response: the network used for downloads (1 byte).
+ * Reads item 0x12 of the GetXTRAParameters (0x002B) response: the network used for downloads (1 byte).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param network Receives the network setting; required.
  * @return The value length of item 0x12; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2B; ZOVQMI_ERR_NO_TLV when item 0x12 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002B; ZOVQMI_ERR_NO_TLV when item 0x12 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseDownloadNetworkConfiguration(const uint8_t* msg, int len,
                                                                                         uint8_t* network);
 /**
- * Reads item 0x13 of the GetXTRAParameters (0x2B) response: the validity of the XTRA data (three u16).
+ * Reads item 0x13 of the GetXTRAParameters (0x002B) response: the validity of the XTRA data (three u16).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param startWeek Receives the GPS week at which the data starts (native); required.
  * @param startMinutes Receives the minutes into that week (native); required.
  * @param validHours Receives the number of hours the data is valid (native); required.
  * @return The value length of item 0x13; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2B; ZOVQMI_ERR_NO_TLV when item 0x13 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002B; ZOVQMI_ERR_NO_TLV when item 0x13 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseValidity(const uint8_t* msg, int len, uint16_t* startWeek,
                                                                     uint16_t* startMinutes, uint16_t* validHours);
 /**
- * Reads item 0x14 of the GetXTRAParameters (0x2B) response: the embedded XTRA clients (2 bytes).
+ * Reads item 0x14 of the GetXTRAParameters (0x002B) response: the embedded XTRA clients (2 bytes).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param dataClient Receives 1 when the embedded data client is on, 0 when off; required.
  * @param timeClient Receives 1 when the embedded time client is on, 0 when off; required.
  * @return The value length of item 0x14; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2B; ZOVQMI_ERR_NO_TLV when item 0x14 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002B; ZOVQMI_ERR_NO_TLV when item 0x14 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetEmbeddedXTRAClientState(const uint8_t* msg, int len,
                                                                        uint8_t* dataClient, uint8_t* timeClient);
 /** @} */
 
-/** @defgroup pds_set_xtra_parameters SetXTRAParameters (0x2C)
+/** @defgroup pds_set_xtra_parameters SetXTRAParameters (0x002C)
  *  @ingroup svc_pds
  *  @brief Sets the XTRA assistance-data settings.
  *  @{
  */
 /**
- * Builds the SetXTRAParameters (0x2C) request header, which optional items may follow.
+ * Builds the SetXTRAParameters (0x002C) request header, which optional items may follow.
  * The items are appended with the zovQMIPDSSetXTRAParametersReqAdd functions. Writes 7 bytes: control flags 0, the
  * next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
@@ -2167,7 +2167,7 @@ ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetEmbeddedXTRAClientState(const ui
  */
 ZOVQMI_API int zovQMIPDSSetXTRAParametersReq(uint8_t* buf, int bufsize);
 /**
- * Appends item 0x10 (u8, u16), automatic download, to a SetXTRAParameters (0x2C) request.
+ * Appends item 0x10 (u8, u16), automatic download, to a SetXTRAParameters (0x002C) request.
  * Appends 6 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2179,7 +2179,7 @@ ZOVQMI_API int zovQMIPDSSetXTRAParametersReq(uint8_t* buf, int bufsize);
 ZOVQMI_API int zovQMIPDSSetXTRAParametersReqAddXTRADatabaseAutodownload(uint8_t* buf, int bufsize, uint8_t enabled,
                                                                        uint16_t interval);
 /**
- * Appends item 0x11, the download medium configuration, to a SetXTRAParameters (0x2C) request.
+ * Appends item 0x11, the download medium configuration, to a SetXTRAParameters (0x002C) request.
  * The value is the length byte then @p length bytes; appends 4 + @p length bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2191,7 +2191,7 @@ ZOVQMI_API int zovQMIPDSSetXTRAParametersReqAddXTRADatabaseAutodownload(uint8_t*
 ZOVQMI_API int zovQMIPDSSetXTRAParametersReqAddXTRADatabaseDownloadConfiguration(uint8_t* buf, int bufsize,
                                                                                 uint8_t length, const void* data);
 /**
- * Appends item 0x12 (1 byte), the network used for downloads, to a SetXTRAParameters (0x2C) request.
+ * Appends item 0x12 (1 byte), the network used for downloads, to a SetXTRAParameters (0x002C) request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2202,7 +2202,7 @@ ZOVQMI_API int zovQMIPDSSetXTRAParametersReqAddXTRADatabaseDownloadConfiguration
 ZOVQMI_API int zovQMIPDSSetXTRAParametersReqAddXTRADatabaseNetworkConfiguration(uint8_t* buf, int bufsize,
                                                                                uint8_t network);
 /**
- * Appends item 0x14 (2 bytes), the embedded XTRA clients, to a SetXTRAParameters (0x2C) request.
+ * Appends item 0x14 (2 bytes), the embedded XTRA clients, to a SetXTRAParameters (0x002C) request.
  * Appends 5 bytes.  There is no item 0x13 in this request.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2214,24 +2214,24 @@ ZOVQMI_API int zovQMIPDSSetXTRAParametersReqAddXTRADatabaseNetworkConfiguration(
 ZOVQMI_API int zovQMIPDSSetXTRAParametersReqAddEmbeddedXTRAClientState(uint8_t* buf, int bufsize, uint8_t dataClient,
                                                                       uint8_t timeClient);
 /**
- * Parses the SetXTRAParameters (0x2C) response: copies its result item 0x02.
+ * Parses the SetXTRAParameters (0x002C) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2C; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002C; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetXTRAParametersResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_force_xtra_download ForceXTRADownload (0x2D)
+/** @defgroup pds_force_xtra_download ForceXTRADownload (0x002D)
  *  @ingroup svc_pds
  *  @brief Makes the modem download XTRA data now.
  *  @{
  */
 /**
- * Builds the ForceXTRADownload (0x2D) request header, which carries no items.
+ * Builds the ForceXTRADownload (0x002D) request header, which carries no items.
  * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
@@ -2239,24 +2239,24 @@ ZOVQMI_API int zovQMIPDSSetXTRAParametersResp(const uint8_t* msg, int len, QmiRe
  */
 ZOVQMI_API int zovQMIPDSForceXTRADownloadReq(uint8_t* buf, int bufsize);
 /**
- * Parses the ForceXTRADownload (0x2D) response: copies its result item 0x02.
+ * Parses the ForceXTRADownload (0x002D) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2D; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002D; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSForceXTRADownloadResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_get_agps_config GetAGPSConfig (0x2E)
+/** @defgroup pds_get_agps_config GetAGPSConfig (0x002E)
  *  @ingroup svc_pds
  *  @brief Reads the assisted-GPS location server.
  *  @{
  */
 /**
- * Builds the GetAGPSConfig (0x2E) request header, which carries no items.
+ * Builds the GetAGPSConfig (0x002E) request header, which carries no items.
  * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
@@ -2264,29 +2264,29 @@ ZOVQMI_API int zovQMIPDSForceXTRADownloadResp(const uint8_t* msg, int len, QmiRe
  */
 ZOVQMI_API int zovQMIPDSGetAGPSConfigReq(uint8_t* buf, int bufsize);
 /**
- * Parses the GetAGPSConfig (0x2E) response: copies its result item 0x02.
+ * Parses the GetAGPSConfig (0x002E) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2E; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002E; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSGetAGPSConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /**
- * Reads item 0x10 of the GetAGPSConfig (0x2E) response: the location server's IPv4 address and port (two u32).
+ * Reads item 0x10 of the GetAGPSConfig (0x002E) response: the location server's IPv4 address and port (two u32).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param address Receives the IPv4 address (native); required.
  * @param port Receives the port (native); required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2E; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002E; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSGetAGPSConfigRespGetAGPSLocationServerIPv4(const uint8_t* msg, int len, uint32_t* address,
                                                                   uint32_t* port);
 /**
- * Reads item 0x11 of the GetAGPSConfig (0x2E) response: the location server's URL, a length byte then that many
+ * Reads item 0x11 of the GetAGPSConfig (0x002E) response: the location server's URL, a length byte then that many
  * bytes.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
@@ -2294,20 +2294,20 @@ ZOVQMI_API int zovQMIPDSGetAGPSConfigRespGetAGPSLocationServerIPv4(const uint8_t
  * @param data Caller buffer of up to 255 bytes that receives the URL (no terminator added); may be null, then only
  *   @p length is delivered.
  * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2E; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002E; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSGetAGPSConfigRespGetAGPSLocationServerURL(const uint8_t* msg, int len, uint8_t* length,
                                                                  void* data);
 /** @} */
 
-/** @defgroup pds_set_agps_config SetAGPSConfig (0x2F)
+/** @defgroup pds_set_agps_config SetAGPSConfig (0x002F)
  *  @ingroup svc_pds
  *  @brief Sets the assisted-GPS location server.
  *  @{
  */
 /**
- * Builds the SetAGPSConfig (0x2F) request header, which optional items may follow.
+ * Builds the SetAGPSConfig (0x002F) request header, which optional items may follow.
  * The items are appended with the zovQMIPDSSetAGPSConfigReqAdd functions. Writes 7 bytes: control flags 0, the next
  * transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
@@ -2316,7 +2316,7 @@ ZOVQMI_API int zovQMIPDSGetAGPSConfigRespGetAGPSLocationServerURL(const uint8_t*
  */
 ZOVQMI_API int zovQMIPDSSetAGPSConfigReq(uint8_t* buf, int bufsize);
 /**
- * Appends item 0x10 (two u32), the location server's IPv4 address and port, to a SetAGPSConfig (0x2F) request.
+ * Appends item 0x10 (two u32), the location server's IPv4 address and port, to a SetAGPSConfig (0x002F) request.
  * Appends 11 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2328,7 +2328,7 @@ ZOVQMI_API int zovQMIPDSSetAGPSConfigReq(uint8_t* buf, int bufsize);
 ZOVQMI_API int zovQMIPDSSetAGPSConfigReqAddAGPSLocationServer(uint8_t* buf, int bufsize, uint32_t address,
                                                              uint32_t port);
 /**
- * Appends item 0x11, the location server's URL, to a SetAGPSConfig (0x2F) request.
+ * Appends item 0x11, the location server's URL, to a SetAGPSConfig (0x002F) request.
  * The value is the length byte then @p length bytes (no terminator); appends 4 + @p length bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2340,24 +2340,24 @@ ZOVQMI_API int zovQMIPDSSetAGPSConfigReqAddAGPSLocationServer(uint8_t* buf, int 
 ZOVQMI_API int zovQMIPDSSetAGPSConfigReqAddAGPSLocationServerURL(uint8_t* buf, int bufsize, uint8_t length,
                                                                 const void* data);
 /**
- * Parses the SetAGPSConfig (0x2F) response: copies its result item 0x02.
+ * Parses the SetAGPSConfig (0x002F) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x2F; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002F; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetAGPSConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_get_com_port_config GetCOMPortConfig (0x32)
+/** @defgroup pds_get_com_port_config GetCOMPortConfig (0x0032)
  *  @ingroup svc_pds
  *  @brief Reads the COM port setting.
  *  @{
  */
 /**
- * Builds the GetCOMPortConfig (0x32) request header, which carries no items.
+ * Builds the GetCOMPortConfig (0x0032) request header, which carries no items.
  * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
@@ -2365,27 +2365,27 @@ ZOVQMI_API int zovQMIPDSSetAGPSConfigResp(const uint8_t* msg, int len, QmiResult
  */
 ZOVQMI_API int zovQMIPDSGetCOMPortConfigReq(uint8_t* buf, int bufsize);
 /**
- * Parses the GetCOMPortConfig (0x32) response: result item 0x02 and item 0x01 (1 byte).
+ * Parses the GetCOMPortConfig (0x0032) response: result item 0x02 and item 0x01 (1 byte).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @param port Receives the COM port setting; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
- *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x32; ZOVQMI_ERR_NO_TLV when the
- *   result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
+ *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000032; ZOVQMI_ERR_NO_TLV when
+ *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
  *   then).
  */
 ZOVQMI_API int zovQMIPDSGetCOMPortConfigResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* port);
 /** @} */
 
-/** @defgroup pds_set_com_port_config SetCOMPortConfig (0x33)
+/** @defgroup pds_set_com_port_config SetCOMPortConfig (0x0033)
  *  @ingroup svc_pds
  *  @brief Sets the COM port.
  *  @{
  */
 /**
- * Builds the SetCOMPortConfig (0x33) request with its item 0x01 (1 byte): 11 bytes.
+ * Builds the SetCOMPortConfig (0x0033) request with its item 0x01 (1 byte): 11 bytes.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 11.
  * @param port COM port setting.
@@ -2394,24 +2394,24 @@ ZOVQMI_API int zovQMIPDSGetCOMPortConfigResp(const uint8_t* msg, int len, QmiRes
  */
 ZOVQMI_API int zovQMIPDSSetCOMPortConfigReq(uint8_t* buf, int bufsize, uint8_t port);
 /**
- * Parses the SetCOMPortConfig (0x33) response: copies its result item 0x02.
+ * Parses the SetCOMPortConfig (0x0033) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x33; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0033; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetCOMPortConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_reset_gps_service_data ResetGPSServiceData (0x34)
+/** @defgroup pds_reset_gps_service_data ResetGPSServiceData (0x0034)
  *  @ingroup svc_pds
  *  @brief Deletes stored GPS data (ephemeris, almanac, cell database, ...).
  *  @{
  */
 /**
- * Builds the ResetGPSServiceData (0x34) request header, which optional items may follow.
+ * Builds the ResetGPSServiceData (0x0034) request header, which optional items may follow.
  * The items are appended with the zovQMIPDSResetGPSServiceDataReqAdd functions. Writes 7 bytes: control flags 0,
  * the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
@@ -2420,7 +2420,7 @@ ZOVQMI_API int zovQMIPDSSetCOMPortConfigResp(const uint8_t* msg, int len, QmiRes
  */
 ZOVQMI_API int zovQMIPDSResetGPSServiceDataReq(uint8_t* buf, int bufsize);
 /**
- * Appends item 0x10 (u32), the GPS data to delete, to a ResetGPSServiceData (0x34) request.
+ * Appends item 0x10 (u32), the GPS data to delete, to a ResetGPSServiceData (0x0034) request.
  * Appends 7 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2430,7 +2430,7 @@ ZOVQMI_API int zovQMIPDSResetGPSServiceDataReq(uint8_t* buf, int bufsize);
  */
 ZOVQMI_API int zovQMIPDSResetGPSServiceDataReqAddGPSServiceData(uint8_t* buf, int bufsize, uint32_t mask);
 /**
- * Appends item 0x11 (u32), the cell database data to delete, to a ResetGPSServiceData (0x34) request.
+ * Appends item 0x11 (u32), the cell database data to delete, to a ResetGPSServiceData (0x0034) request.
  * Appends 7 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2440,24 +2440,24 @@ ZOVQMI_API int zovQMIPDSResetGPSServiceDataReqAddGPSServiceData(uint8_t* buf, in
  */
 ZOVQMI_API int zovQMIPDSResetGPSServiceDataReqAddGPSServiceCellDBData(uint8_t* buf, int bufsize, uint32_t mask);
 /**
- * Parses the ResetGPSServiceData (0x34) response: copies its result item 0x02.
+ * Parses the ResetGPSServiceData (0x0034) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x34; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0034; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSResetGPSServiceDataResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_get_gps_service_version GetGPSServiceVersion (0x36)
+/** @defgroup pds_get_gps_service_version GetGPSServiceVersion (0x0036)
  *  @ingroup svc_pds
  *  @brief Reads the version of the GPS service.
  *  @{
  */
 /**
- * Builds the GetGPSServiceVersion (0x36) request header, which carries no items.
+ * Builds the GetGPSServiceVersion (0x0036) request header, which carries no items.
  * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
@@ -2465,15 +2465,15 @@ ZOVQMI_API int zovQMIPDSResetGPSServiceDataResp(const uint8_t* msg, int len, Qmi
  */
 ZOVQMI_API int zovQMIPDSGetGPSServiceVersionReq(uint8_t* buf, int bufsize);
 /**
- * Parses the GetGPSServiceVersion (0x36) response: result item 0x02 and item 0x01 (2 bytes).
+ * Parses the GetGPSServiceVersion (0x0036) response: result item 0x02 and item 0x01 (2 bytes).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @param major Receives the major version; required.
  * @param minor Receives the minor version; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
- *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x36; ZOVQMI_ERR_NO_TLV when the
- *   result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
+ *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000036; ZOVQMI_ERR_NO_TLV when
+ *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
  *   then).
  */
@@ -2481,13 +2481,13 @@ ZOVQMI_API int zovQMIPDSGetGPSServiceVersionResp(const uint8_t* msg, int len, Qm
                                                 uint8_t* minor);
 /** @} */
 
-/** @defgroup pds_inject_xtra_data InjectXTRAData (0x37)
+/** @defgroup pds_inject_xtra_data InjectXTRAData (0x0037)
  *  @ingroup svc_pds
  *  @brief Injects one block of XTRA data.
  *  @{
  */
 /**
- * Builds the InjectXTRAData (0x37) request with its item 0x01: 15 + @p length bytes.
+ * Builds the InjectXTRAData (0x0037) request with its item 0x01: 15 + @p length bytes.
  * The value is the sequence byte, the total length (u16), @p length (u16) and the data bytes: 5 + @p length bytes.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 15 + @p length.
@@ -2501,24 +2501,24 @@ ZOVQMI_API int zovQMIPDSGetGPSServiceVersionResp(const uint8_t* msg, int len, Qm
 ZOVQMI_API int zovQMIPDSInjectXTRADataReq(uint8_t* buf, int bufsize, uint8_t sequence, uint16_t totalLength,
                                          uint16_t length, const void* data);
 /**
- * Parses the InjectXTRAData (0x37) response: copies its result item 0x02.
+ * Parses the InjectXTRAData (0x0037) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x37; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0037; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSInjectXTRADataResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_inject_position_data InjectPositionData (0x38)
+/** @defgroup pds_inject_position_data InjectPositionData (0x0038)
  *  @ingroup svc_pds
  *  @brief Injects a position fix obtained elsewhere.
  *  @{
  */
 /**
- * Builds the InjectPositionData (0x38) request header, which optional items may follow.
+ * Builds the InjectPositionData (0x0038) request header, which optional items may follow.
  * The items are appended with the zovQMIPDSInjectPositionDataReqAdd functions. Writes 7 bytes: control flags 0, the
  * next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
@@ -2527,7 +2527,7 @@ ZOVQMI_API int zovQMIPDSInjectXTRADataResp(const uint8_t* msg, int len, QmiResul
  */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReq(uint8_t* buf, int bufsize);
 /**
- * Appends item 0x10 (64-bit), the time stamp of the fix, to an InjectPositionData (0x38) request.
+ * Appends item 0x10 (64-bit), the time stamp of the fix, to an InjectPositionData (0x0038) request.
  * Appends 11 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2537,7 +2537,7 @@ ZOVQMI_API int zovQMIPDSInjectPositionDataReq(uint8_t* buf, int bufsize);
  */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddTimestamp(uint8_t* buf, int bufsize, uint64_t timestamp);
 /**
- * Appends item 0x11 (64-bit), the latitude, to an InjectPositionData (0x38) request.
+ * Appends item 0x11 (64-bit), the latitude, to an InjectPositionData (0x0038) request.
  * Appends 11 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2548,7 +2548,7 @@ ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddTimestamp(uint8_t* buf, int bufs
  */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddLatitude(uint8_t* buf, int bufsize, uint64_t latitude);
 /**
- * Appends item 0x12 (64-bit), the longitude, to an InjectPositionData (0x38) request.
+ * Appends item 0x12 (64-bit), the longitude, to an InjectPositionData (0x0038) request.
  * Appends 11 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2559,7 +2559,7 @@ ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddLatitude(uint8_t* buf, int bufsi
  */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddLongitude(uint8_t* buf, int bufsize, uint64_t longitude);
 /**
- * Appends item 0x13 (u32), the altitude above the ellipsoid, to an InjectPositionData (0x38) request.
+ * Appends item 0x13 (u32), the altitude above the ellipsoid, to an InjectPositionData (0x0038) request.
  * Appends 7 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2569,7 +2569,7 @@ ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddLongitude(uint8_t* buf, int bufs
  */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddAltitudeFromEllipsoid(uint8_t* buf, int bufsize, uint32_t altitude);
 /**
- * Appends item 0x14 (u32), the altitude above sea level, to an InjectPositionData (0x38) request.
+ * Appends item 0x14 (u32), the altitude above sea level, to an InjectPositionData (0x0038) request.
  * Appends 7 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2579,7 +2579,7 @@ ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddAltitudeFromEllipsoid(uint8_t* b
  */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddAltitudeFromSeaLevel(uint8_t* buf, int bufsize, uint32_t altitude);
 /**
- * Appends item 0x15 (u32), the circular horizontal uncertainty, to an InjectPositionData (0x38) request.
+ * Appends item 0x15 (u32), the circular horizontal uncertainty, to an InjectPositionData (0x0038) request.
  * Appends 7 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2590,7 +2590,7 @@ ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddAltitudeFromSeaLevel(uint8_t* bu
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddHorizontalUncertaintyCircular(uint8_t* buf, int bufsize,
                                                                              uint32_t uncertainty);
 /**
- * Appends item 0x16 (u32), the vertical uncertainty, to an InjectPositionData (0x38) request.
+ * Appends item 0x16 (u32), the vertical uncertainty, to an InjectPositionData (0x0038) request.
  * Appends 7 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2600,7 +2600,7 @@ ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddHorizontalUncertaintyCircular(ui
  */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddVerticalUncertainty(uint8_t* buf, int bufsize, uint32_t uncertainty);
 /**
- * Appends item 0x17 (1 byte), the horizontal confidence, to an InjectPositionData (0x38) request.
+ * Appends item 0x17 (1 byte), the horizontal confidence, to an InjectPositionData (0x0038) request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2610,7 +2610,7 @@ ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddVerticalUncertainty(uint8_t* buf
  */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddHorizontalConfidence(uint8_t* buf, int bufsize, uint8_t confidence);
 /**
- * Appends item 0x18 (1 byte), the vertical confidence, to an InjectPositionData (0x38) request.
+ * Appends item 0x18 (1 byte), the vertical confidence, to an InjectPositionData (0x0038) request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2620,7 +2620,7 @@ ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddHorizontalConfidence(uint8_t* bu
  */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddVerticalConfidence(uint8_t* buf, int bufsize, uint8_t confidence);
 /**
- * Appends item 0x19 (1 byte), the source of the position, to an InjectPositionData (0x38) request.
+ * Appends item 0x19 (1 byte), the source of the position, to an InjectPositionData (0x0038) request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2630,7 +2630,7 @@ ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddVerticalConfidence(uint8_t* buf,
  */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddPositionSource(uint8_t* buf, int bufsize, uint8_t source);
 /**
- * Appends item 0x1A (1 byte), the type of the time stamp, to an InjectPositionData (0x38) request.
+ * Appends item 0x1A (1 byte), the type of the time stamp, to an InjectPositionData (0x0038) request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2640,24 +2640,24 @@ ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddPositionSource(uint8_t* buf, int
  */
 ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddTimeType(uint8_t* buf, int bufsize, uint8_t timeType);
 /**
- * Parses the InjectPositionData (0x38) response: copies its result item 0x02.
+ * Parses the InjectPositionData (0x0038) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x38; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0038; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSInjectPositionDataResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_inject_wifi_position_data InjectWiFiPositionData (0x39)
+/** @defgroup pds_inject_wifi_position_data InjectWiFiPositionData (0x0039)
  *  @ingroup svc_pds
  *  @brief Injects a WiFi position and the access points seen.
  *  @{
  */
 /**
- * Builds the InjectWiFiPositionData (0x39) request header, which optional items may follow.
+ * Builds the InjectWiFiPositionData (0x0039) request header, which optional items may follow.
  * The items are appended with the zovQMIPDSInjectWiFiPositionDataReqAdd functions. Writes 7 bytes: control flags 0,
  * the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
@@ -2666,7 +2666,7 @@ ZOVQMI_API int zovQMIPDSInjectPositionDataResp(const uint8_t* msg, int len, QmiR
  */
 ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataReq(uint8_t* buf, int bufsize);
 /**
- * Appends item 0x10 (u32), the time of the WiFi position, to an InjectWiFiPositionData (0x39) request.
+ * Appends item 0x10 (u32), the time of the WiFi position, to an InjectWiFiPositionData (0x0039) request.
  * Appends 7 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2676,7 +2676,7 @@ ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataReq(uint8_t* buf, int bufsize);
  */
 ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataReqAddWiFiPositionTime(uint8_t* buf, int bufsize, uint32_t time);
 /**
- * Appends item 0x11 (u32, u32, u16, u8, u8: 12 bytes), the WiFi position, to an InjectWiFiPositionData (0x39)
+ * Appends item 0x11 (u32, u32, u16, u8, u8: 12 bytes), the WiFi position, to an InjectWiFiPositionData (0x0039)
  * request.
  * Appends 15 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
@@ -2693,7 +2693,7 @@ ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataReqAddWiFiPosition(uint8_t* buf, i
                                                                 uint32_t longitude, uint16_t uncertainty,
                                                                 uint8_t confidence, uint8_t reliability);
 /**
- * Appends item 0x12, the access points seen, to an InjectWiFiPositionData (0x39) request.
+ * Appends item 0x12, the access points seen, to an InjectWiFiPositionData (0x0039) request.
  * The value is @p count, then the @p count 13-byte entries as they are: appends 4 + 13 per entry bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2707,24 +2707,24 @@ ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataReqAddWiFiPositionAPInformation(ui
                                                                              uint8_t count,
                                                                              const WiFiAccessPointEntry* entries);
 /**
- * Parses the InjectWiFiPositionData (0x39) response: copies its result item 0x02.
+ * Parses the InjectWiFiPositionData (0x0039) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x39; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0039; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_get_sbas_config GetSBASConfig (0x3A)
+/** @defgroup pds_get_sbas_config GetSBASConfig (0x003A)
  *  @ingroup svc_pds
  *  @brief Reads the SBAS setting.
  *  @{
  */
 /**
- * Builds the GetSBASConfig (0x3A) request header, which carries no items.
+ * Builds the GetSBASConfig (0x003A) request header, which carries no items.
  * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
@@ -2732,34 +2732,34 @@ ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataResp(const uint8_t* msg, int len, 
  */
 ZOVQMI_API int zovQMIPDSGetSBASConfigReq(uint8_t* buf, int bufsize);
 /**
- * Parses the GetSBASConfig (0x3A) response: copies its result item 0x02.
+ * Parses the GetSBASConfig (0x003A) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x3A; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003A; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSGetSBASConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /**
- * Reads item 0x10 of the GetSBASConfig (0x3A) response: the SBAS setting (1 byte).
+ * Reads item 0x10 of the GetSBASConfig (0x003A) response: the SBAS setting (1 byte).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param config Receives the SBAS setting: 1 enabled, 0 disabled; required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x3A; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003A; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSGetSBASConfigRespGetSBASConfiguration(const uint8_t* msg, int len, uint8_t* config);
 /** @} */
 
-/** @defgroup pds_set_sbas_config SetSBASConfig (0x3B)
+/** @defgroup pds_set_sbas_config SetSBASConfig (0x003B)
  *  @ingroup svc_pds
  *  @brief Sets the SBAS setting.
  *  @{
  */
 /**
- * Builds the SetSBASConfig (0x3B) request header, which optional items may follow.
+ * Builds the SetSBASConfig (0x003B) request header, which optional items may follow.
  * The items are appended with zovQMIPDSSetSBASConfigReqAddSBASConfiguration. Writes 7 bytes: control flags 0, the
  * next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
@@ -2768,7 +2768,7 @@ ZOVQMI_API int zovQMIPDSGetSBASConfigRespGetSBASConfiguration(const uint8_t* msg
  */
 ZOVQMI_API int zovQMIPDSSetSBASConfigReq(uint8_t* buf, int bufsize);
 /**
- * Appends item 0x10 (1 byte), the SBAS setting, to a SetSBASConfig (0x3B) request.
+ * Appends item 0x10 (1 byte), the SBAS setting, to a SetSBASConfig (0x003B) request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2778,24 +2778,24 @@ ZOVQMI_API int zovQMIPDSSetSBASConfigReq(uint8_t* buf, int bufsize);
  */
 ZOVQMI_API int zovQMIPDSSetSBASConfigReqAddSBASConfiguration(uint8_t* buf, int bufsize, uint8_t config);
 /**
- * Parses the SetSBASConfig (0x3B) response: copies its result item 0x02.
+ * Parses the SetSBASConfig (0x003B) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x3B; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003B; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetSBASConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_inject_abs_time_ref InjectAbsTimeRef (0x3D)
+/** @defgroup pds_inject_abs_time_ref InjectAbsTimeRef (0x003D)
  *  @ingroup svc_pds
  *  @brief Injects an absolute time reference.
  *  @{
  */
 /**
- * Builds the InjectAbsTimeRef (0x3D) request header, which optional items may follow.
+ * Builds the InjectAbsTimeRef (0x003D) request header, which optional items may follow.
  * The items are appended with zovQMIPDSInjectAbsTimeRefReqAddAbsoluteTimeInjection. Writes 7 bytes: control flags
  * 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
@@ -2804,7 +2804,7 @@ ZOVQMI_API int zovQMIPDSSetSBASConfigResp(const uint8_t* msg, int len, QmiResult
  */
 ZOVQMI_API int zovQMIPDSInjectAbsTimeRefReq(uint8_t* buf, int bufsize);
 /**
- * Appends item 0x01 (64-bit, u32, u8, u8: 14 bytes), the absolute time, to an InjectAbsTimeRef (0x3D) request.
+ * Appends item 0x01 (64-bit, u32, u8, u8: 14 bytes), the absolute time, to an InjectAbsTimeRef (0x003D) request.
  * Appends 17 bytes and raises the header's TLV-area length.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2821,24 +2821,24 @@ ZOVQMI_API int zovQMIPDSInjectAbsTimeRefReqAddAbsoluteTimeInjection(uint8_t* buf
                                                                    uint32_t uncertainty, uint8_t timeBase,
                                                                    uint8_t forceAccept);
 /**
- * Parses the InjectAbsTimeRef (0x3D) response: copies its result item 0x02.
+ * Parses the InjectAbsTimeRef (0x003D) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x3D; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003D; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSInjectAbsTimeRefResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_inject_efs_data InjectEFSData (0x3E)
+/** @defgroup pds_inject_efs_data InjectEFSData (0x003E)
  *  @ingroup svc_pds
  *  @brief Writes a file into the modem's file system.
  *  @{
  */
 /**
- * Builds the InjectEFSData (0x3E) request with its item 0x01: 18 + @c nameLength + @c dataLength bytes.
+ * Builds the InjectEFSData (0x003E) request with its item 0x01: 18 + @c nameLength + @c dataLength bytes.
  * The value is the name length, the name, the operation byte, the data length (u32), the part number, the total
  * number of parts and the data.
  * @param buf Buffer that receives the request; required.
@@ -2849,24 +2849,24 @@ ZOVQMI_API int zovQMIPDSInjectAbsTimeRefResp(const uint8_t* msg, int len, QmiRes
  */
 ZOVQMI_API int zovQMIPDSInjectEFSDataReq(uint8_t* buf, int bufsize, const EFSFileRecord* file);
 /**
- * Parses the InjectEFSData (0x3E) response: copies its result item 0x02.
+ * Parses the InjectEFSData (0x003E) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x3E; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003E; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSInjectEFSDataResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_get_dpo_config GetDPOConfig (0x3F)
+/** @defgroup pds_get_dpo_config GetDPOConfig (0x003F)
  *  @ingroup svc_pds
  *  @brief Reads the DPO (dynamic power optimisation) setting.
  *  @{
  */
 /**
- * Builds the GetDPOConfig (0x3F) request header, which carries no items.
+ * Builds the GetDPOConfig (0x003F) request header, which carries no items.
  * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
@@ -2874,34 +2874,34 @@ ZOVQMI_API int zovQMIPDSInjectEFSDataResp(const uint8_t* msg, int len, QmiResult
  */
 ZOVQMI_API int zovQMIPDSGetDPOConfigReq(uint8_t* buf, int bufsize);
 /**
- * Parses the GetDPOConfig (0x3F) response: copies its result item 0x02.
+ * Parses the GetDPOConfig (0x003F) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x3F; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003F; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSGetDPOConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /**
- * Reads item 0x10 of the GetDPOConfig (0x3F) response: the DPO setting (1 byte).
+ * Reads item 0x10 of the GetDPOConfig (0x003F) response: the DPO setting (1 byte).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param config Receives the DPO setting; required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x3F; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003F; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSGetDPOConfigRespGetDPOConfiguration(const uint8_t* msg, int len, uint8_t* config);
 /** @} */
 
-/** @defgroup pds_set_dpo_config SetDPOConfig (0x40)
+/** @defgroup pds_set_dpo_config SetDPOConfig (0x0040)
  *  @ingroup svc_pds
  *  @brief Sets the DPO (dynamic power optimisation) setting.
  *  @{
  */
 /**
- * Builds the SetDPOConfig (0x40) request header, which optional items may follow.
+ * Builds the SetDPOConfig (0x0040) request header, which optional items may follow.
  * The items are appended with zovQMIPDSSetDPOConfigReqAddDPOConfiguration. Writes 7 bytes: control flags 0, the
  * next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
@@ -2910,7 +2910,7 @@ ZOVQMI_API int zovQMIPDSGetDPOConfigRespGetDPOConfiguration(const uint8_t* msg, 
  */
 ZOVQMI_API int zovQMIPDSSetDPOConfigReq(uint8_t* buf, int bufsize);
 /**
- * Appends item 0x10 (1 byte), the DPO setting, to a SetDPOConfig (0x40) request.
+ * Appends item 0x10 (1 byte), the DPO setting, to a SetDPOConfig (0x0040) request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2920,24 +2920,24 @@ ZOVQMI_API int zovQMIPDSSetDPOConfigReq(uint8_t* buf, int bufsize);
  */
 ZOVQMI_API int zovQMIPDSSetDPOConfigReqAddDPOConfiguration(uint8_t* buf, int bufsize, uint8_t config);
 /**
- * Parses the SetDPOConfig (0x40) response: copies its result item 0x02.
+ * Parses the SetDPOConfig (0x0040) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x40; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0040; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetDPOConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
 
-/** @defgroup pds_get_odp_config GetODPConfig (0x41)
+/** @defgroup pds_get_odp_config GetODPConfig (0x0041)
  *  @ingroup svc_pds
  *  @brief Reads the ODP (on-demand positioning) setting.
  *  @{
  */
 /**
- * Builds the GetODPConfig (0x41) request header, which carries no items.
+ * Builds the GetODPConfig (0x0041) request header, which carries no items.
  * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
  * @param bufsize Capacity of @p buf in bytes; at least 7.
@@ -2945,34 +2945,34 @@ ZOVQMI_API int zovQMIPDSSetDPOConfigResp(const uint8_t* msg, int len, QmiResult*
  */
 ZOVQMI_API int zovQMIPDSGetODPConfigReq(uint8_t* buf, int bufsize);
 /**
- * Parses the GetODPConfig (0x41) response: copies its result item 0x02.
+ * Parses the GetODPConfig (0x0041) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x41; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0041; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSGetODPConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /**
- * Reads item 0x10 of the GetODPConfig (0x41) response: the ODP setting (1 byte).
+ * Reads item 0x10 of the GetODPConfig (0x0041) response: the ODP setting (1 byte).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param config Receives the ODP setting; required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
- *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x41; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0041; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
  *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
  */
 ZOVQMI_API int zovQMIPDSGetODPConfigRespGetODPConfiguration(const uint8_t* msg, int len, uint8_t* config);
 /** @} */
 
-/** @defgroup pds_set_odp_config SetODPConfig (0x42)
+/** @defgroup pds_set_odp_config SetODPConfig (0x0042)
  *  @ingroup svc_pds
  *  @brief Sets the ODP (on-demand positioning) setting.
  *  @{
  */
 /**
- * Builds the SetODPConfig (0x42) request header, which optional items may follow.
+ * Builds the SetODPConfig (0x0042) request header, which optional items may follow.
  * The items are appended with zovQMIPDSSetODPConfigReqAddODPConfiguration. Writes 7 bytes: control flags 0, the
  * next transaction id, the message id and a TLV-area length of 0.
  * @param buf Buffer that receives the request; required.
@@ -2981,7 +2981,7 @@ ZOVQMI_API int zovQMIPDSGetODPConfigRespGetODPConfiguration(const uint8_t* msg, 
  */
 ZOVQMI_API int zovQMIPDSSetODPConfigReq(uint8_t* buf, int bufsize);
 /**
- * Appends item 0x10 (1 byte), the ODP setting, to a SetODPConfig (0x42) request.
+ * Appends item 0x10 (1 byte), the ODP setting, to a SetODPConfig (0x0042) request.
  * Appends 4 bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
@@ -2991,12 +2991,12 @@ ZOVQMI_API int zovQMIPDSSetODPConfigReq(uint8_t* buf, int bufsize);
  */
 ZOVQMI_API int zovQMIPDSSetODPConfigReqAddODPConfiguration(uint8_t* buf, int bufsize, uint8_t config);
 /**
- * Parses the SetODPConfig (0x42) response: copies its result item 0x02.
+ * Parses the SetODPConfig (0x0042) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
- *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x42; ZOVQMI_ERR_NO_TLV when the result item is
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0042; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetODPConfigResp(const uint8_t* msg, int len, QmiResult* result);
@@ -4161,198 +4161,792 @@ ZOVQMI_API int zovQMIPBMHiddenRecordStatusIND(const uint8_t* msg, int len, uint8
 
 
 /* ---------------------------------------------------------------- QOS -- */
+/** @defgroup svc_qos QOS: quality of service (service 4)
+ *  @brief QoS reservations on a data call: request, modify, release, suspend and resume them, read what was granted,
+ *  follow their status, and learn which QoS profiles the network supports.
+ */
 
-/* QOS: one traffic flow of a QoSSpec.  Natural alignment (84 bytes); arrays
- * of it are stepped by its size.  Fields are native values.  `type` is the
- * type of the item that wraps the flow in its container (0x11 or 0x12);
- * `index` is set only when reading a QoS error list.  Every parameter
- * item has a presence byte (nonzero: present) and its value fields, named
- * after the item's type. */
+/**
+ * One traffic flow of a QoS spec: the parameter items the flow carries.  84 bytes, natural alignment; arrays of it
+ * are stepped by its size. Fields are native values (not little-endian bytes).  Each parameter item has a presence
+ * byte (nonzero: present) and its value fields, named after the item's type; the builder writes present items only,
+ * in the order 0x10, 0x1B, 0x11 to 0x18, 0x19, 0x1A, 0x1C, 0x1D, 0x1E.  The parsers set the presence byte of each
+ * item they read to 1 and leave the others as they were.
+ * @ingroup qos_codec
+ */
 typedef struct FlowSpecification {
-    uint8_t type;
-    uint8_t index;
-    uint8_t present10;
-    uint8_t value10;
-    uint8_t present1B;
-    uint16_t value1B;
-    uint8_t present11;
-    uint8_t value11;
-    uint8_t present12;
-    uint32_t value12First;
-    uint32_t value12Second;
-    uint8_t present13;
-    uint32_t value13First;
-    uint32_t value13Second;
-    uint32_t value13Third;
-    uint8_t present14;
-    uint32_t value14;
-    uint8_t present15;
-    uint32_t value15;
-    uint8_t present16;
-    uint16_t value16First;
-    uint16_t value16Second;
-    uint8_t present17;
-    uint32_t value17;
-    uint8_t present18;
-    uint32_t value18;
-    uint8_t present19;
-    uint8_t value19;
-    uint8_t present1A;
-    uint8_t value1A;
-    uint8_t present1C;
-    uint8_t value1C;
-    uint8_t present1D;
-    uint8_t value1D;
-    uint8_t present1E;
-    uint8_t value1E;
+    uint8_t type; /**< Type of the item that wraps the flow in its container: 0x11 or 0x12.  The builder writes it as
+                       the wrapper's type; the flow parser leaves it alone; the container parsers set it. */
+    uint8_t index; /**< Set only when reading a QoS error list (its sub-item 0x10); not read by the builder. */
+    uint8_t present10; /**< Nonzero: item 0x10 present. */
+    uint8_t value10; /**< Item 0x10 (1 byte). */
+    uint8_t present1B; /**< Nonzero: item 0x1B present. */
+    uint16_t value1B; /**< Item 0x1B (u16). */
+    uint8_t present11; /**< Nonzero: item 0x11 present. */
+    uint8_t value11; /**< Item 0x11 (1 byte). */
+    uint8_t present12; /**< Nonzero: item 0x12 present. */
+    uint32_t value12First; /**< Item 0x12, first u32. */
+    uint32_t value12Second; /**< Item 0x12, second u32. */
+    uint8_t present13; /**< Nonzero: item 0x13 present. */
+    uint32_t value13First; /**< Item 0x13, first u32. */
+    uint32_t value13Second; /**< Item 0x13, second u32. */
+    uint32_t value13Third; /**< Item 0x13, third u32. */
+    uint8_t present14; /**< Nonzero: item 0x14 present. */
+    uint32_t value14; /**< Item 0x14 (u32). */
+    uint8_t present15; /**< Nonzero: item 0x15 present. */
+    uint32_t value15; /**< Item 0x15 (u32). */
+    uint8_t present16; /**< Nonzero: item 0x16 present. */
+    uint16_t value16First; /**< Item 0x16, first u16. */
+    uint16_t value16Second; /**< Item 0x16, second u16. */
+    uint8_t present17; /**< Nonzero: item 0x17 present. */
+    uint32_t value17; /**< Item 0x17 (u32). */
+    uint8_t present18; /**< Nonzero: item 0x18 present. */
+    uint32_t value18; /**< Item 0x18 (u32). */
+    uint8_t present19; /**< Nonzero: item 0x19 present. */
+    uint8_t value19; /**< Item 0x19 (1 byte). */
+    uint8_t present1A; /**< Nonzero: item 0x1A present. */
+    uint8_t value1A; /**< Item 0x1A (1 byte). */
+    uint8_t present1C; /**< Nonzero: item 0x1C present. */
+    uint8_t value1C; /**< Item 0x1C (1 byte). */
+    uint8_t present1D; /**< Nonzero: item 0x1D present. */
+    uint8_t value1D; /**< Item 0x1D (1 byte). */
+    uint8_t present1E; /**< Nonzero: item 0x1E present. */
+    uint8_t value1E; /**< Item 0x1E (1 byte). */
 } FlowSpecification;
 
-/* QOS: one packet filter of a QoSSpec.  Natural alignment (112 bytes), as
- * for flows; `type` is 0x13 or 0x14.  A filter has no item 0x18, 0x1F or
- * 0x20. */
+/**
+ * One packet filter of a QoS spec: the parameter items the filter carries.  112 bytes, natural alignment, as for
+ * flows. Fields are native values; the 16-byte blocks are copied as they are.  A filter has no item 0x18, 0x1F or
+ * 0x20; the builder writes present items in type order.  The parsers set the presence byte of each item they read
+ * to 1 and leave the others as they were.
+ * @ingroup qos_codec
+ */
 typedef struct FilterSpecification {
-    uint8_t type;
-    uint8_t index;
-    uint8_t present10;
-    uint8_t value10;
-    uint8_t present11;
-    uint8_t value11;
-    uint8_t present12;
-    uint32_t value12First;
-    uint32_t value12Second;
-    uint8_t present13;
-    uint32_t value13First;
-    uint32_t value13Second;
-    uint8_t present14;
-    uint8_t value14;
-    uint8_t present15;
-    uint8_t value15Byte0;
-    uint8_t value15Byte1;
-    uint8_t present16;
-    uint8_t value16[16];
-    uint8_t value16Last;
-    uint8_t present17;
-    uint8_t value17[16];
-    uint8_t value17Last;
-    uint8_t present19;
-    uint8_t value19Byte0;
-    uint8_t value19Byte1;
-    uint8_t present1A;
-    uint32_t value1A;
-    uint8_t present1B;
-    uint16_t value1BFirst;
-    uint16_t value1BSecond;
-    uint8_t present1C;
-    uint16_t value1CFirst;
-    uint16_t value1CSecond;
-    uint8_t present1D;
-    uint16_t value1DFirst;
-    uint16_t value1DSecond;
-    uint8_t present1E;
-    uint16_t value1EFirst;
-    uint16_t value1ESecond;
-    uint8_t present21;
-    uint32_t value21;
+    uint8_t type; /**< Type of the item that wraps the filter in its container: 0x13 or 0x14, as for flows. */
+    uint8_t index; /**< Set only when reading a QoS error list; not read by the builder. */
+    uint8_t present10; /**< Nonzero: item 0x10 present. */
+    uint8_t value10; /**< Item 0x10 (1 byte). */
+    uint8_t present11; /**< Nonzero: item 0x11 present. */
+    uint8_t value11; /**< Item 0x11 (1 byte). */
+    uint8_t present12; /**< Nonzero: item 0x12 present. */
+    uint32_t value12First; /**< Item 0x12, first u32. */
+    uint32_t value12Second; /**< Item 0x12, second u32. */
+    uint8_t present13; /**< Nonzero: item 0x13 present. */
+    uint32_t value13First; /**< Item 0x13, first u32. */
+    uint32_t value13Second; /**< Item 0x13, second u32. */
+    uint8_t present14; /**< Nonzero: item 0x14 present. */
+    uint8_t value14; /**< Item 0x14 (1 byte). */
+    uint8_t present15; /**< Nonzero: item 0x15 present. */
+    uint8_t value15Byte0; /**< Item 0x15, byte 0. */
+    uint8_t value15Byte1; /**< Item 0x15, byte 1. */
+    uint8_t present16; /**< Nonzero: item 0x16 present. */
+    uint8_t value16[16]; /**< Item 0x16, its first 16 bytes as they are. */
+    uint8_t value16Last; /**< Item 0x16, its 17th byte. */
+    uint8_t present17; /**< Nonzero: item 0x17 present. */
+    uint8_t value17[16]; /**< Item 0x17, its first 16 bytes as they are. */
+    uint8_t value17Last; /**< Item 0x17, its 17th byte. */
+    uint8_t present19; /**< Nonzero: item 0x19 present. */
+    uint8_t value19Byte0; /**< Item 0x19, byte 0. */
+    uint8_t value19Byte1; /**< Item 0x19, byte 1. */
+    uint8_t present1A; /**< Nonzero: item 0x1A present. */
+    uint32_t value1A; /**< Item 0x1A (u32). */
+    uint8_t present1B; /**< Nonzero: item 0x1B present. */
+    uint16_t value1BFirst; /**< Item 0x1B, first u16. */
+    uint16_t value1BSecond; /**< Item 0x1B, second u16. */
+    uint8_t present1C; /**< Nonzero: item 0x1C present. */
+    uint16_t value1CFirst; /**< Item 0x1C, first u16. */
+    uint16_t value1CSecond; /**< Item 0x1C, second u16. */
+    uint8_t present1D; /**< Nonzero: item 0x1D present. */
+    uint16_t value1DFirst; /**< Item 0x1D, first u16. */
+    uint16_t value1DSecond; /**< Item 0x1D, second u16. */
+    uint8_t present1E; /**< Nonzero: item 0x1E present. */
+    uint16_t value1EFirst; /**< Item 0x1E, first u16. */
+    uint16_t value1ESecond; /**< Item 0x1E, second u16. */
+    uint8_t present21; /**< Nonzero: item 0x21 present. */
+    uint32_t value21; /**< Item 0x21 (u32). */
 } FilterSpecification;
 
 #pragma pack(push, 1)
 
-/* QOS: a set of flows and filters in caller-owned arrays.  Packed: the
- * pointers lie unaligned.  Parsers read the pointers and write the counts. */
+/**
+ * A set of flows and filters held in caller-owned arrays (10 bytes on 32-bit hosts, packed: the pointers lie
+ * unaligned). Builders read the counts and the arrays; parsers read the array pointers and write the counts.
+ * @ingroup svc_qos
+ */
 typedef struct QoSSpec {
-    uint8_t flowCount;
-    uint8_t filterCount;
-    FlowSpecification* flows;
-    FilterSpecification* filters;
+    uint8_t flowCount; /**< Number of elements in @c flows. */
+    uint8_t filterCount; /**< Number of elements in @c filters. */
+    FlowSpecification* flows; /**< Caller array of flows; may be null when @c flowCount is 0 (builders) or when the
+                                   flows are not wanted (parsers: they are then only counted). */
+    FilterSpecification* filters; /**< Caller array of filters; may be null when @c filterCount is 0 (builders) or
+                                       when the filters are not wanted (parsers: they are then only counted). */
 } QoSSpec;
 
-/* QOS: item 0x10 of the flow-information list (6 bytes; the identifier is
- * stored as little-endian bytes). */
+/**
+ * The state of one QoS flow: item 0x10 of the flow-information list of the event report (6 bytes, packed).
+ * @ingroup qos_set_event_report
+ */
 typedef struct QoSFlowState {
-    uint32_t identifier;
-    uint8_t status;
-    uint8_t event;
+    uint32_t identifier; /**< QoS identifier, stored as little-endian bytes. */
+    uint8_t status; /**< Flow status. */
+    uint8_t event; /**< Event that changed it. */
 } QoSFlowState;
 
-/* QOS: one list of network-supported QoS profiles (7 bytes on 32-bit hosts):
- * technology (little-endian bytes), profile count and a caller array that
- * receives the profile values as native words (may be null). */
+/**
+ * One list of network-supported QoS profiles (7 bytes on 32-bit hosts, packed).
+ * On the wire: the technology (u16), a count byte and count u16 profile values, 3 + 2 per profile bytes.
+ * @ingroup svc_qos
+ */
 typedef struct QoSProfileList {
-    uint16_t technology;
-    uint8_t profileCount;
-    uint16_t* profiles;
+    uint16_t technology; /**< Technology the profiles apply to, stored as little-endian bytes. */
+    uint8_t profileCount; /**< Number of profile values. */
+    uint16_t* profiles; /**< Caller array of @c profileCount words that receives the values (native); may be null,
+                             then only the count is delivered. */
 } QoSProfileList;
 
 #pragma pack(pop)
 
-/* Flow and filter codec: append one flow or filter to a QoS
- * item record of type 0x10, or read one back from a received item. */
+/** @defgroup qos_codec Flow and filter codec
+ *  @ingroup svc_qos
+ *  @brief Nests one flow or filter into a QoS spec item and reads one back.
+ *
+ *  On the wire a flow or filter is a wrapper item (0x11 or 0x12 for a flow, 0x13 or 0x14 for a filter) whose value
+ *  is one item 0x10 whose value is the list of parameter items.
+ *  @{
+ */
+/**
+ * Appends one flow to the value of a QoS spec item record of type 0x10.
+ * Writes the wrapper item (type @c flow->type), the item 0x10 and the flow's present parameter items at the end of
+ * the record's value and raises its length.
+ * @param tlv The record under construction; its type must be 0x10; required.
+ * @param flow The flow; required.  Its @c index is not read.
+ * @return The number of bytes appended (6 + the parameter items, at most 100); ZOVQMI_ERR_ARG for a null @p tlv or
+ *   @p flow; -2 (the value of ZOVQMI_ERR_NO_ROOM) when the record's type is not 0x10; ZOVQMI_ERR_MALFORMED when the
+ *   value would pass the record's 1024 bytes (the record is left as it was).
+ * @note Deliberate: item 0x1B is written right after item 0x10, ahead of 0x11, as the record orders its fields.
+ */
 ZOVQMI_API int fnRequestAddFlowSpecification(QmiTlvRecord* tlv, const FlowSpecification* flow);
+/**
+ * Appends one filter to the value of a QoS spec item record of type 0x10.
+ * Writes the wrapper item (type @c filter->type), the item 0x10 and the filter's present parameter items at the end
+ * of the record's value and raises its length.
+ * @param tlv The record under construction; its type must be 0x10; required.
+ * @param filter The filter; required.  Its @c index is not read.
+ * @return The number of bytes appended (6 + the parameter items, at most 132); ZOVQMI_ERR_ARG for a null @p tlv or
+ *   @p filter; -2 (the value of ZOVQMI_ERR_NO_ROOM) when the record's type is not 0x10; ZOVQMI_ERR_MALFORMED when
+ *   the value would pass the record's 1024 bytes (the record is left as it was).
+ */
 ZOVQMI_API int fnRequestAddFilterSpecification(QmiTlvRecord* tlv, const FilterSpecification* filter);
+/**
+ * Reads one flow item back: an item whose value is the list of flow parameter items.
+ * Reads only inside [@p item, @p item + @p length).  The item's own type byte is not examined; unknown parameter
+ * types are skipped.
+ * @param item Points at the item's type byte; required.
+ * @param length The item's total size, its 3-byte header included; taken as 16 bits.
+ * @param flow Receives the parameters present; required.  @c type and @c index are left alone.
+ * @return @p length (as 16 bits); ZOVQMI_ERR_ARG for a null @p item or @p flow or a @p length below 3; -2 (the
+ *   value of ZOVQMI_ERR_NO_MESSAGE) when the item's length field is not @p length - 3; ZOVQMI_ERR_MALFORMED when a
+ *   parameter runs past @p length or a step would wrap past 16 bits.  Nothing is written on failure.
+ * @note Deliberate: each parameter is copied at the fixed width of its type whatever its length field says, so a
+ *   short parameter is read on into the bytes that follow it.
+ * @note Deliberate: the record is not cleared first: fields of absent items keep what the caller had in them.
+ */
 ZOVQMI_API int fnResponseParseFlowSpecification(const uint8_t* item, int length, FlowSpecification* flow);
+/**
+ * Reads one filter item back: an item whose value is the list of filter parameter items.
+ * Reads only inside [@p item, @p item + @p length).  The item's own type byte is not examined; unknown parameter
+ * types (0x18, 0x1F, 0x20 among them) are skipped.
+ * @param item Points at the item's type byte; required.
+ * @param length The item's total size, its 3-byte header included; taken as 16 bits.
+ * @param filter Receives the parameters present; required.  @c type and @c index are left alone.
+ * @return @p length (as 16 bits); ZOVQMI_ERR_ARG for a null @p item or @p filter or a @p length below 3; -2 (the
+ *   value of ZOVQMI_ERR_NO_MESSAGE) when the item's length field is not @p length - 3; ZOVQMI_ERR_MALFORMED when a
+ *   parameter runs past @p length or a step would wrap past 16 bits.  Nothing is written on failure.
+ * @note Deliberate: each parameter is copied at the fixed width of its type whatever its length field says, so a
+ *   short parameter is read on into the bytes that follow it.
+ * @note Deliberate: the record is not cleared first: fields of absent items keep what the caller had in them.
+ */
 ZOVQMI_API int fnResponseParseFilterSpecification(const uint8_t* item, int length, FilterSpecification* filter);
+/** @} */
 
+/** @defgroup qos_reset Reset (0x0000)
+ *  @ingroup svc_qos
+ *  @brief Resets the QOS state of this client.
+ *  @{
+ */
+/**
+ * Builds the Reset (0x0000) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIQOSResetReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the Reset (0x0000) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0000; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIQOSResetResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
+/** @defgroup qos_set_event_report SetEventReport (0x0001) and the event report (0x0001, indication)
+ *  @ingroup svc_qos
+ *  @brief Subscribes to flow and profile reports, which the event report indication then delivers.
+ *  @{
+ */
+/**
+ * Builds the SetEventReport (0x0001) request header, which optional items may follow.
+ * The items are appended with the zovQMIQOSSetEventReportReqAdd functions. Writes 7 bytes: control flags 0, the
+ * next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIQOSSetEventReportReq(uint8_t* buf, int bufsize);
+/**
+ * Appends item 0x10 (1 byte), global flow reporting, to a SetEventReport (0x0001) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param report 1: report flow changes, 0: do not.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIQOSSetEventReportReqAddGlobalFlowInfoReporting(uint8_t* buf, int bufsize, uint8_t report);
+/**
+ * Appends item 0x11 (u8, u16), reporting of changes to the network-supported profiles, to a SetEventReport (0x0001)
+ * request.
+ * Appends 6 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param report 1: report changes, 0: do not.
+ * @param technology Technology whose profiles are watched (written little-endian).
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIQOSSetEventReportReqAddNetworkSupportedQoSProfileChange(uint8_t* buf, int bufsize, uint8_t report,
                                                                             uint16_t technology);
+/**
+ * Parses the SetEventReport (0x0001) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIQOSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Checks that a buffer holds the event report (0x0001) indication; reads no item.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg; ZOVQMI_ERR_NO_MESSAGE when @p msg
+ *   holds no message 0x0001.
+ */
 ZOVQMI_API int zovQMIQOSSetEventReportIND(const uint8_t* msg, int len);
+/**
+ * Reads item 0x10 of the event report (0x0001) indication: the state of a flow and the flows and filters it lists.
+ * Walks the value item by item: item 0x10 (u32, u8, u8) fills @p state; each item 0x11 or 0x12 is the next flow and
+ * each 0x13 or 0x14 the next filter, read by the flow or filter parser with @c type set to the item's type.  Both
+ * counts are set.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param state Receives the flow state; required.
+ * @param qosSpec Its @c flows and @c filters arrays (set beforehand, or null) receive the elements, its counts the
+ *   numbers found; required.  The arrays' size is not checked.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: every flow and filter item is counted, even when its array is null or the element cannot be
+ *   parsed; the counts are single bytes and wrap after 255.
+ */
 ZOVQMI_API int zovQMIQOSSetEventReportINDGetQoSFlowInfo(const uint8_t* msg, int len, QoSFlowState* state,
                                                        QoSSpec* qosSpec);
+/**
+ * Reads item 0x11 of the event report (0x0001) indication: one list of network-supported profiles.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param list Receives the technology and the count; its @c profiles pointer is set beforehand (or null) and
+ *   receives the values; required.
+ * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIQOSSetEventReportINDGetNetworkSupportedQoSProfiles(const uint8_t* msg, int len,
                                                                        QoSProfileList* list);
+/** @} */
 
+/** @defgroup qos_request_qos RequestQoS (0x0020)
+ *  @ingroup svc_qos
+ *  @brief Asks for a QoS reservation described by a QoS spec.
+ *  @{
+ */
+/**
+ * Builds the RequestQoS (0x0020) request header, which optional items may follow.
+ * The items are appended with the zovQMIQOSRequestQoSReqAdd functions. Writes 7 bytes: control flags 0, the next
+ * transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIQOSRequestQoSReq(uint8_t* buf, int bufsize);
+/**
+ * Appends item 0x10, a QoS spec, to a RequestQoS (0x0020) request.
+ * The value is the index item 0x10 (1 byte), then every flow of @p qosSpec, then every filter, each nested by the
+ * flow or filter codec under its own @c type.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param index Index of this QoS spec in the request.
+ * @param qosSpec The flows and filters; required.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf or @p qosSpec, or a nonzero count with a null
+ *   array; ZOVQMI_ERR_NO_ROOM when the item does not fit in @p bufsize; ZOVQMI_ERR_MALFORMED when the value would
+ *   exceed 1024 bytes; the message is left as it was on failure.
+ */
 ZOVQMI_API int zovQMIQOSRequestQoSReqAddQoSSpec(uint8_t* buf, int bufsize, uint8_t index, const QoSSpec* qosSpec);
+/**
+ * Appends item 0x11 (1 byte), the request opcode, to a RequestQoS (0x0020) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param opcode Request opcode.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIQOSRequestQoSReqAddQoSRequestOpcode(uint8_t* buf, int bufsize, uint8_t opcode);
+/**
+ * Parses the RequestQoS (0x0020) response: result item 0x02 and item 0x01, the QoS identifiers granted.
+ * Item 0x01 is a count, then count u32 identifiers.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param count Receives the number of identifiers; required.
+ * @param identifiers Caller array of @p count words that receives the identifiers (native); may be null, then only
+ *   @p count is delivered.  Its size is not checked.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
+ *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0020; ZOVQMI_ERR_NO_TLV when
+ *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
+ *   then).
+ */
 ZOVQMI_API int zovQMIQOSRequestQoSResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
                                        uint32_t* identifiers);
+/**
+ * Reads item 0x10 of the RequestQoS (0x0020) response: the QoS spec errors.
+ * Walks the value item by item: item 0x10 gives @p index; an item 0x11 or 0x12 whose value begins with a non-empty
+ * item 0x10 is the next flow, one 0x13 or 0x14 the next filter, with @c type set to the item's type, @c index from
+ * its sub-item 0x10 and the parameters from its sub-item 0x11.  Both counts are set.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param index Receives the index of the QoS spec in error; required.
+ * @param qosSpec Its @c flows and @c filters arrays (set beforehand, or null) receive the elements in error, its
+ *   counts the numbers found; required.  The arrays' size is not checked.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0020; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: only flow and filter items whose nested item 0x10 is non-empty are counted, but those are
+ *   counted even when their array is null; the counts are single bytes and wrap after 255.
+ */
 ZOVQMI_API int zovQMIQOSRequestQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* qosSpec);
+/** @} */
 
+/** @defgroup qos_release_qos ReleaseQoS (0x0021)
+ *  @ingroup svc_qos
+ *  @brief Releases QoS reservations.
+ *  @{
+ */
+/**
+ * Builds the ReleaseQoS (0x0021) request: the header, then item 0x01 with the count and the identifiers (1 + 4 per
+ * identifier bytes).
+ * Returns 11 + 4 * @p count on success.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7 for the header.
+ * @param count Number of identifiers.
+ * @param identifiers The QoS identifiers (written little-endian); may be null only when @p count is 0.
+ * @return The request length; ZOVQMI_ERR_ARG when @p buf is null, @p bufsize is below 7, or a nonzero @p count
+ *   comes with a null @p identifiers (nothing is written); ZOVQMI_ERR_NO_ROOM when item 0x01 does not fit.
+ * @note Deliberate: item 0x01 is appended behind a header written with no items, so when it does not fit the buffer
+ *   is left holding that header.
+ */
 ZOVQMI_API int zovQMIQOSReleaseQoSReq(uint8_t* buf, int bufsize, uint8_t count, const uint32_t* identifiers);
+/**
+ * Parses the ReleaseQoS (0x0021) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0021; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIQOSReleaseQoSResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup qos_suspend_qos SuspendQoS (0x0022)
+ *  @ingroup svc_qos
+ *  @brief Suspends QoS reservations.
+ *  @{
+ */
+/**
+ * Builds the SuspendQoS (0x0022) request: the header, then item 0x01 with the count and the identifiers (1 + 4 per
+ * identifier bytes).
+ * Returns 11 + 4 * @p count on success.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7 for the header.
+ * @param count Number of identifiers.
+ * @param identifiers The QoS identifiers (written little-endian); may be null only when @p count is 0.
+ * @return The request length; ZOVQMI_ERR_ARG when @p buf is null, @p bufsize is below 7, or a nonzero @p count
+ *   comes with a null @p identifiers (nothing is written); ZOVQMI_ERR_NO_ROOM when item 0x01 does not fit.
+ * @note Deliberate: item 0x01 is appended behind a header written with no items, so when it does not fit the buffer
+ *   is left holding that header.
+ */
 ZOVQMI_API int zovQMIQOSSuspendQoSReq(uint8_t* buf, int bufsize, uint8_t count, const uint32_t* identifiers);
+/**
+ * Parses the SuspendQoS (0x0022) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0022; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIQOSSuspendQoSResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
+/** @defgroup qos_resume_qos ResumeQoS (0x0023)
+ *  @ingroup svc_qos
+ *  @brief Resumes suspended QoS reservations.
+ *  @{
+ */
+/**
+ * Builds the ResumeQoS (0x0023) request: the header, then item 0x01 with the count and the identifiers (1 + 4 per
+ * identifier bytes).
+ * Returns 11 + 4 * @p count on success.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7 for the header.
+ * @param count Number of identifiers.
+ * @param identifiers The QoS identifiers (written little-endian); may be null only when @p count is 0.
+ * @return The request length; ZOVQMI_ERR_ARG when @p buf is null, @p bufsize is below 7, or a nonzero @p count
+ *   comes with a null @p identifiers (nothing is written); ZOVQMI_ERR_NO_ROOM when item 0x01 does not fit.
+ * @note Deliberate: item 0x01 is appended behind a header written with no items, so when it does not fit the buffer
+ *   is left holding that header.
+ */
 ZOVQMI_API int zovQMIQOSResumeQoSReq(uint8_t* buf, int bufsize, uint8_t count, const uint32_t* identifiers);
+/**
+ * Parses the ResumeQoS (0x0023) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0023; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIQOSResumeQoSResp(const uint8_t* msg, int len, QmiResult* result);
+/** @} */
 
+/** @defgroup qos_modify_qos ModifyQoS (0x0024)
+ *  @ingroup svc_qos
+ *  @brief Changes a QoS reservation.
+ *  @{
+ */
+/**
+ * Builds the ModifyQoS (0x0024) request header, which optional items may follow.
+ * The items are appended with the zovQMIQOSModifyQoSReqAdd functions. Writes 7 bytes: control flags 0, the next
+ * transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIQOSModifyQoSReq(uint8_t* buf, int bufsize);
+/**
+ * Appends item 0x10, a QoS spec, to a ModifyQoS (0x0024) request.
+ * The value is the identifier item 0x01 (u32), the index item 0x10 (1 byte), then every flow of @p qosSpec, then
+ * every filter, each nested by the flow or filter codec under its own @c type.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param identifier QoS identifier of the reservation to change (written little-endian).
+ * @param index Index of this QoS spec in the request.
+ * @param qosSpec The flows and filters; required.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf or @p qosSpec, or a nonzero count with a null
+ *   array; ZOVQMI_ERR_NO_ROOM when the item does not fit in @p bufsize; ZOVQMI_ERR_MALFORMED when the value would
+ *   exceed 1024 bytes; the message is left as it was on failure.
+ */
 ZOVQMI_API int zovQMIQOSModifyQoSReqAddQoSSpec(uint8_t* buf, int bufsize, uint32_t identifier, uint8_t index,
                                                const QoSSpec* qosSpec);
+/**
+ * Appends item 0x11 (1 byte), a request to modify the primary flow, to a ModifyQoS (0x0024) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param primary 1: modify the primary flow, 0: not.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIQOSModifyQoSReqAddPrimaryQoSModifyRequest(uint8_t* buf, int bufsize, uint8_t primary);
+/**
+ * Parses the ModifyQoS (0x0024) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0024; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIQOSModifyQoSResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x10 of the ModifyQoS (0x0024) response: the QoS spec errors, read exactly as for RequestQoS.
+ * See zovQMIQOSRequestQoSRespGetQoSSpecError.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param index Receives the index of the QoS spec in error; required.
+ * @param qosSpec Its @c flows and @c filters arrays (set beforehand, or null) receive the elements in error, its
+ *   counts the numbers found; required.  The arrays' size is not checked.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0024; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: only flow and filter items whose nested item 0x10 is non-empty are counted, but those are
+ *   counted even when their array is null; the counts are single bytes and wrap after 255.
+ */
 ZOVQMI_API int zovQMIQOSModifyQoSRespGetQoSSpecError(const uint8_t* msg, int len, uint8_t* index, QoSSpec* qosSpec);
+/** @} */
 
+/** @defgroup qos_get_granted_qos GetGrantedQoS (0x0025)
+ *  @ingroup svc_qos
+ *  @brief Reads the QoS the network granted.
+ *  @{
+ */
+/**
+ * Builds the GetGrantedQoS (0x0025) request with its item 0x01 (u32 identifier): 14 bytes.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 14.
+ * @param identifier QoS identifier (written little-endian).
+ * @return 14, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 14 (nothing is
+ *   written).
+ */
 ZOVQMI_API int zovQMIQOSGetGrantedQoSReq(uint8_t* buf, int bufsize, uint32_t identifier);
+/**
+ * Appends item 0x10 (1 byte), a request for the primary flow's granted QoS, to a GetGrantedQoS (0x0025) request.
+ * Appends 4 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param primary 1: ask for the primary flow, 0: not.
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIQOSGetGrantedQoSReqAddPrimaryGrantedQoSRequest(uint8_t* buf, int bufsize, uint8_t primary);
+/**
+ * Parses the GetGrantedQoS (0x0025) response: copies its result item 0x02.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
+ *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0025; ZOVQMI_ERR_NO_TLV when the result item is
+ *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ */
 ZOVQMI_API int zovQMIQOSGetGrantedQoSResp(const uint8_t* msg, int len, QmiResult* result);
+/**
+ * Reads item 0x11 of the GetGrantedQoS (0x0025) response: the transmit flow granted.
+ * The item's value is one flow item 0x10, read by fnResponseParseFlowSpecification.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param flow Receives the flow's parameters; required.
+ * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or @p flow, or a value shorter than 3
+ *   bytes; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0025, or when the flow item's length field
+ *   disagrees with the value length; ZOVQMI_ERR_NO_TLV when item 0x11 is absent; ZOVQMI_ERR_MALFORMED when a field
+ *   lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the flow parser's own codes come through: -1 for a value shorter than 3 bytes, -2 for a flow
+ *   item whose length disagrees.
+ */
 ZOVQMI_API int zovQMIQOSGetGrantedQoSRespGetTxQoSGrantedFlow(const uint8_t* msg, int len, FlowSpecification* flow);
+/**
+ * Reads item 0x12 of the GetGrantedQoS (0x0025) response: the receive flow granted.
+ * The item's value is one flow item 0x10, read by fnResponseParseFlowSpecification.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param flow Receives the flow's parameters; required.
+ * @return The value length of item 0x12; ZOVQMI_ERR_ARG for a null @p msg or @p flow, or a value shorter than 3
+ *   bytes; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0025, or when the flow item's length field
+ *   disagrees with the value length; ZOVQMI_ERR_NO_TLV when item 0x12 is absent; ZOVQMI_ERR_MALFORMED when a field
+ *   lies beyond the end of @p msg (nothing is written then).
+ * @note Deliberate: the flow parser's own codes come through: -1 for a value shorter than 3 bytes, -2 for a flow
+ *   item whose length disagrees.
+ */
 ZOVQMI_API int zovQMIQOSGetGrantedQoSRespGetRxQoSGrantedFlow(const uint8_t* msg, int len, FlowSpecification* flow);
+/**
+ * Reads item 0xE0 of the GetGrantedQoS (0x0025) response: the extended error code (u16).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param error Receives the extended error code (native); required.
+ * @return The value length of item 0xE0; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0025; ZOVQMI_ERR_NO_TLV when item 0xE0 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIQOSGetGrantedQoSRespGetExtendedErrorInfo(const uint8_t* msg, int len, uint16_t* error);
+/** @} */
 
+/** @defgroup qos_get_qos_status GetQoSStatus (0x0026) and the QoS status (0x0026, indication)
+ *  @ingroup svc_qos
+ *  @brief Reads the status of a QoS reservation; the indication reports changes.
+ *  @{
+ */
+/**
+ * Builds the GetQoSStatus (0x0026) request with its item 0x01 (u32 identifier): 14 bytes.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 14.
+ * @param identifier QoS identifier (written little-endian).
+ * @return 14, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 14 (nothing is
+ *   written).
+ */
 ZOVQMI_API int zovQMIQOSGetQoSStatusReq(uint8_t* buf, int bufsize, uint32_t identifier);
+/**
+ * Parses the GetQoSStatus (0x0026) response: result item 0x02 and item 0x01, the status (1 byte).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param status Receives the status of the reservation as the modem sends it; required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
+ *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0026; ZOVQMI_ERR_NO_TLV when
+ *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
+ *   then).
+ */
 ZOVQMI_API int zovQMIQOSGetQoSStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status);
+/**
+ * Parses the QoS status (0x0026) indication: item 0x01 (u32, u8, u8).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param identifier Receives the QoS identifier (native); required.
+ * @param status Receives the new status; required.
+ * @param event Receives the event that changed it; required.
+ * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0026; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIQOSStatusIND(const uint8_t* msg, int len, uint32_t* identifier, uint8_t* status,
                                   uint8_t* event);
+/**
+ * Reads item 0x10 of the QoS status (0x0026) indication: the reason code (1 byte).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param reason Receives the reason code; required.
+ * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0026; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIQOSStatusINDGetReasonCode(const uint8_t* msg, int len, uint8_t* reason);
+/** @} */
 
+/** @defgroup qos_get_qos_network_status GetQoSNetworkStatus (0x0027) and the network status (0x0027, indication)
+ *  @ingroup svc_qos
+ *  @brief Reads whether the current network supports QoS; the indication reports changes.
+ *  @{
+ */
+/**
+ * Builds the GetQoSNetworkStatus (0x0027) request header, which carries no items.
+ * Writes 7 bytes: control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIQOSGetQoSNetworkStatusReq(uint8_t* buf, int bufsize);
+/**
+ * Parses the GetQoSNetworkStatus (0x0027) response: result item 0x02 and item 0x01, the network's QoS support (1
+ * byte).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param status Receives the network's QoS support as the modem sends it; required.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
+ *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0027; ZOVQMI_ERR_NO_TLV when
+ *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
+ *   then).
+ */
 ZOVQMI_API int zovQMIQOSGetQoSNetworkStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status);
+/**
+ * Parses the network status (0x0027) indication: item 0x01, the network's QoS support (1 byte).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param status Receives the network's QoS support as the modem sends it; required.
+ * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0027; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIQOSNetworkStatusIND(const uint8_t* msg, int len, uint8_t* status);
+/** @} */
 
+/** @defgroup qos_get_nw_supported_qos_profiles GetNWSupportedQoSProfiles (0x0028)
+ *  @ingroup svc_qos
+ *  @brief Reads the QoS profiles the network supports.
+ *  @{
+ */
+/**
+ * Builds the GetNWSupportedQoSProfiles (0x0028) request header, which optional items may follow.
+ * The items are appended with zovQMIQOSGetNWSupportedQoSProfilesReqAddExtendedTechnologyPreference. Writes 7 bytes:
+ * control flags 0, the next transaction id, the message id and a TLV-area length of 0.
+ * @param buf Buffer that receives the request; required.
+ * @param bufsize Capacity of @p buf in bytes; at least 7.
+ * @return 7, the request length; ZOVQMI_ERR_ARG when @p buf is null or @p bufsize is below 7 (nothing is written).
+ */
 ZOVQMI_API int zovQMIQOSGetNWSupportedQoSProfilesReq(uint8_t* buf, int bufsize);
+/**
+ * Appends item 0x10 (u16), the technology preference, to a GetNWSupportedQoSProfiles (0x0028) request.
+ * Appends 5 bytes.
+ * @param buf Request under construction, its header written by the matching Req function; required.
+ * @param bufsize Capacity of @p buf in bytes.
+ * @param preference Extended technology preference (written little-endian).
+ * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf; ZOVQMI_ERR_NO_ROOM when the item does not fit
+ *   in @p bufsize (the message is left as it was).
+ */
 ZOVQMI_API int zovQMIQOSGetNWSupportedQoSProfilesReqAddExtendedTechnologyPreference(uint8_t* buf, int bufsize,
                                                                                    uint16_t preference);
+/**
+ * Parses the GetNWSupportedQoSProfiles (0x0028) response: result item 0x02 and item 0x01, the profile lists.
+ * Item 0x01 is a count, then count lists back to back, each 3 + 2 per profile bytes.
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param count Receives the number of lists; required.
+ * @param lists Caller array of @p count records, each with its @c profiles pointer set beforehand (or null); may be
+ *   null, then only @p count is delivered.  Its size is not checked.
+ * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
+ *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0028; ZOVQMI_ERR_NO_TLV when
+ *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
+ *   then).
+ */
 ZOVQMI_API int zovQMIQOSGetNWSupportedQoSProfilesResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
                                                       QoSProfileList* lists);
+/**
+ * Reads item 0xE0 of the GetNWSupportedQoSProfiles (0x0028) response: the extended error code (u16).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param error Receives the extended error code (native); required.
+ * @return The value length of item 0xE0; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0028; ZOVQMI_ERR_NO_TLV when item 0xE0 is absent;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIQOSGetNWSupportedQoSProfilesRespGetExtendedErrorInfo(const uint8_t* msg, int len,
                                                                          uint16_t* error);
+/** @} */
 
+/** @defgroup qos_primary_qos_event PrimaryQoSEvent (0x0029, indication)
+ *  @ingroup svc_qos
+ *  @brief Reports an event of the primary flow's QoS.
+ *  @{
+ */
+/**
+ * Parses the primary QoS event (0x0029) indication: item 0x01, the event (u16).
+ * @param msg Received message (QMUX header removed); required.
+ * @param len Length of @p msg in bytes.
+ * @param event Receives the event code (native); required.
+ * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
+ *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0029; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
+ *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ */
 ZOVQMI_API int zovQMIQOSPrimaryQoSEventIND(const uint8_t* msg, int len, uint16_t* event);
+/** @} */
 
 /* ------------------------------------------------------------ end QOS -- */
 
