@@ -1278,7 +1278,7 @@ ZOVQMI_API int zovQMIPDSResetReq(uint8_t* buf, int bufsize);
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0000; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSResetResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -1419,7 +1419,7 @@ ZOVQMI_API int zovQMIPDSSetEventReportReqAddPDSCommEvents(uint8_t* buf, int bufs
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -1449,7 +1449,8 @@ ZOVQMI_API int zovQMIPDSEventReportIND(const uint8_t* msg, int len);
  *   null, then only @p length is delivered.  Nothing is copied for an empty item.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSEventReportINDGetPositionDataNMEA(const uint8_t* msg, int len, uint16_t* length, void* data);
 /**
@@ -1459,7 +1460,8 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetPositionDataNMEA(const uint8_t* msg, in
  * @param status Receives the session status code as the modem sends it; required.
  * @return The value length of item 0x12; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x12 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSEventReportINDGetPositionSessionStatus(const uint8_t* msg, int len, uint8_t* status);
 /**
@@ -1470,13 +1472,16 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetPositionSessionStatus(const uint8_t* ms
  * @param data Receives the fix, laid out as on the wire; required.
  * @return The value length of item 0x13; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x13 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
+ * @note Deliberate: all 105 bytes are read whatever the item's length says, so a short item is read on into the
+ *   bytes that follow it in @p msg.
  */
 ZOVQMI_API int zovQMIPDSEventReportINDGetParsedPositionData(const uint8_t* msg, int len, ParsedPositionData* data);
 /**
  * Reads item 0x14 of the EventReport (0x0001) indication: the modem asks for XTRA data.
  * Value: u16 maximum file size, a count, then count entries of a length byte and that many bytes (the servers to
- * fetch from).
+ * fetch from). The walk is bounded by the end of @p msg, not by the item's length.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param maxFileSize Receives the maximum file size in bytes (native); required.
@@ -1486,7 +1491,8 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetParsedPositionData(const uint8_t* msg, 
  *   checked: it must hold the count the modem sends (up to 255).
  * @return The value length of item 0x14; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x14 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSEventReportINDGetExternalXTRADatabaseRequest(const uint8_t* msg, int len,
                                                                     uint16_t* maxFileSize, uint8_t* count,
@@ -1494,6 +1500,7 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetExternalXTRADatabaseRequest(const uint8
 /**
  * Reads item 0x15 of the EventReport (0x0001) indication: the modem asks for a time injection.
  * Value: u32 delay threshold, a count, then count entries of a length byte and that many bytes (the time servers).
+ * The walk is bounded by the end of @p msg, not by the item's length.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param delayThreshold Receives the delay threshold (native); required.
@@ -1503,7 +1510,8 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetExternalXTRADatabaseRequest(const uint8
  *   not checked.
  * @return The value length of item 0x15; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x15 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSEventReportINDGetExternalTimeInjectionRequest(const uint8_t* msg, int len,
                                                                      uint32_t* delayThreshold, uint8_t* count,
@@ -1516,13 +1524,15 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetExternalTimeInjectionRequest(const uint
  * @param interval Receives the requested interval (u16, native); required.
  * @return The value length of item 0x16; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x16 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSEventReportINDGetExternalWiFiPositionRequest(const uint8_t* msg, int len, uint8_t* request,
                                                                     uint16_t* interval);
 /**
  * Reads item 0x17 of the EventReport (0x0001) indication: the satellites in view.
- * Value: u32 valid mask, ionosphere byte, a count, then count 18-byte entries copied as they are.
+ * Value: u32 valid mask, ionosphere byte, a count, then count 18-byte entries copied as they are. The walk is
+ * bounded by the end of @p msg, not by the item's length.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
  * @param validMask Receives the valid mask (native); required.
@@ -1532,7 +1542,8 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetExternalWiFiPositionRequest(const uint8
  *   delivered.  Its size is not checked.
  * @return The value length of item 0x17; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x17 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSEventReportINDGetSatelliteInformation(const uint8_t* msg, int len, uint32_t* validMask,
                                                              uint8_t* iono, uint8_t* count,
@@ -1546,7 +1557,8 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetSatelliteInformation(const uint8_t* msg
  *   copied); required.
  * @return The value length of item 0x18; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x18 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: the record is read at its own layout whatever the item's length says, so a short item is read
  *   on into the bytes that follow it in @p msg.
  */
@@ -1561,7 +1573,8 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetNetworkInitiatedPromptVX(const uint8_t*
  *   not copied); required.
  * @return The value length of item 0x19; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x19 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: the record is read at its own layout whatever the item's length says, so a short item is read
  *   on into the bytes that follow it in @p msg.
  */
@@ -1577,7 +1590,8 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetNetworkInitiatedPromptSUPL(const uint8_
  *   beforehand (null: not copied); required.
  * @return The value length of item 0x1A; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x1A is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: the record is read at its own layout whatever the item's length says, so a short item is read
  *   on into the bytes that follow it in @p msg.
  */
@@ -1591,7 +1605,8 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetNetworkInitiatedPromptUMTSCP(const uint
  * @param state Receives the event state; required.
  * @return The value length of item 0x1B; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x1B is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSEventReportINDGetPDSCommEvents(const uint8_t* msg, int len, uint8_t* type, uint8_t* state);
 /**
@@ -1602,7 +1617,8 @@ ZOVQMI_API int zovQMIPDSEventReportINDGetPDSCommEvents(const uint8_t* msg, int l
  * @param source Receives the position source (native); required.
  * @return The value length of item 0x1C; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x1C is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSEventReportINDGetPositionSource(const uint8_t* msg, int len, uint32_t* source);
 /** @} */
@@ -1630,8 +1646,8 @@ ZOVQMI_API int zovQMIPDSGetGPSServiceStateReq(uint8_t* buf, int bufsize);
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
  *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000020; ZOVQMI_ERR_NO_TLV when
  *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
- *   then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (the outputs of item
+ *   0x01 are not written then).
  */
 ZOVQMI_API int zovQMIPDSGetGPSServiceStateResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* enabled,
                                               uint8_t* trackingState);
@@ -1643,7 +1659,8 @@ ZOVQMI_API int zovQMIPDSGetGPSServiceStateResp(const uint8_t* msg, int len, QmiR
  * @param trackingState Receives the tracking state as the modem sends it; required.
  * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000020; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSGPSServiceStateIND(const uint8_t* msg, int len, uint8_t* enabled, uint8_t* trackingState);
 /** @} */
@@ -1669,7 +1686,7 @@ ZOVQMI_API int zovQMIPDSSetGPSServiceStateReq(uint8_t* buf, int bufsize, uint8_t
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0021; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetGPSServiceStateResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -1700,8 +1717,8 @@ ZOVQMI_API int zovQMIPDSGetDefaultTrackingSessionReq(uint8_t* buf, int bufsize);
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
  *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000029; ZOVQMI_ERR_NO_TLV when
  *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
- *   then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (the outputs of item
+ *   0x01 are not written then).
  */
 ZOVQMI_API int zovQMIPDSGetDefaultTrackingSessionResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* mode,
                                                      uint8_t* timeout, uint32_t* interval, uint32_t* accuracy);
@@ -1732,7 +1749,7 @@ ZOVQMI_API int zovQMIPDSSetDefaultTrackingSessionReq(uint8_t* buf, int bufsize, 
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002A; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetDefaultTrackingSessionResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -1759,8 +1776,8 @@ ZOVQMI_API int zovQMIPDSGetAutoTrackingStateReq(uint8_t* buf, int bufsize);
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
  *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000030; ZOVQMI_ERR_NO_TLV when
  *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
- *   then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (the outputs of item
+ *   0x01 are not written then).
  */
 ZOVQMI_API int zovQMIPDSGetAutoTrackingStateResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* state);
 /** @} */
@@ -1786,7 +1803,7 @@ ZOVQMI_API int zovQMIPDSSetAutoTrackingStateReq(uint8_t* buf, int bufsize, uint8
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0031; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetAutoTrackingStateResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -1843,7 +1860,7 @@ ZOVQMI_API int zovQMIPDSDetermineSinglePositionReqAddSinglePositionAccuracy(uint
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0035; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSDetermineSinglePositionResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -1910,7 +1927,7 @@ ZOVQMI_API int zovQMIPDSSendNIResponseReqAddNetworkInitiatedPromptUMTSCP(uint8_t
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003C; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSendNIResponseResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -1935,7 +1952,7 @@ ZOVQMI_API int zovQMIPDSCancelSinglePositionReq(uint8_t* buf, int bufsize);
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0043; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSCancelSinglePositionResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -1960,7 +1977,7 @@ ZOVQMI_API int zovQMIPDSGetGPSStateInfoReq(uint8_t* buf, int bufsize);
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0044; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSGetGPSStateInfoResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -1971,7 +1988,10 @@ ZOVQMI_API int zovQMIPDSGetGPSStateInfoResp(const uint8_t* msg, int len, QmiResu
  * @param info Receives the state, laid out as on the wire; required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0044; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
+ * @note Deliberate: all 98 bytes are read whatever the item's length says, so a short item is read on into the
+ *   bytes that follow it in @p msg.
  */
 ZOVQMI_API int zovQMIPDSGetGPSStateInfoRespGetGPSStateInformation(const uint8_t* msg, int len,
                                                                  GPSStateInformation* info);
@@ -2001,8 +2021,8 @@ ZOVQMI_API int zovQMIPDSGetNMEAConfigReq(uint8_t* buf, int bufsize);
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
  *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000026; ZOVQMI_ERR_NO_TLV when
  *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
- *   then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (the outputs of item
+ *   0x01 are not written then).
  */
 ZOVQMI_API int zovQMIPDSGetNMEAConfigResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* sentenceMask,
                                          uint8_t* port, uint8_t* reporting);
@@ -2032,7 +2052,7 @@ ZOVQMI_API int zovQMIPDSSetNMEAConfigReq(uint8_t* buf, int bufsize, uint8_t sent
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0027; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetNMEAConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -2060,7 +2080,7 @@ ZOVQMI_API int zovQMIPDSInjectRelativeTimeRefReq(uint8_t* buf, int bufsize, uint
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0028; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSInjectRelativeTimeRefResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -2085,7 +2105,7 @@ ZOVQMI_API int zovQMIPDSGetXTRAParametersReq(uint8_t* buf, int bufsize);
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002B; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -2096,7 +2116,8 @@ ZOVQMI_API int zovQMIPDSGetXTRAParametersResp(const uint8_t* msg, int len, QmiRe
  * @param interval Receives the download interval, in hours (native); required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002B; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseAutodownload(const uint8_t* msg, int len,
                                                                         uint8_t* enabled, uint16_t* interval);
@@ -2110,7 +2131,8 @@ ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseAutodownload(const u
  *   delivered.
  * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002B; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseDownloadMediumConfiguration(const uint8_t* msg, int len,
                                                                                        uint8_t* length, void* data);
@@ -2121,7 +2143,8 @@ ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseDownloadMediumConfig
  * @param network Receives the network setting; required.
  * @return The value length of item 0x12; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002B; ZOVQMI_ERR_NO_TLV when item 0x12 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseDownloadNetworkConfiguration(const uint8_t* msg, int len,
                                                                                         uint8_t* network);
@@ -2134,7 +2157,8 @@ ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseDownloadNetworkConfi
  * @param validHours Receives the number of hours the data is valid (native); required.
  * @return The value length of item 0x13; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002B; ZOVQMI_ERR_NO_TLV when item 0x13 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseValidity(const uint8_t* msg, int len, uint16_t* startWeek,
                                                                     uint16_t* startMinutes, uint16_t* validHours);
@@ -2146,7 +2170,8 @@ ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetXTRADatabaseValidity(const uint8
  * @param timeClient Receives 1 when the embedded time client is on, 0 when off; required.
  * @return The value length of item 0x14; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002B; ZOVQMI_ERR_NO_TLV when item 0x14 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSGetXTRAParametersRespGetEmbeddedXTRAClientState(const uint8_t* msg, int len,
                                                                        uint8_t* dataClient, uint8_t* timeClient);
@@ -2220,7 +2245,7 @@ ZOVQMI_API int zovQMIPDSSetXTRAParametersReqAddEmbeddedXTRAClientState(uint8_t* 
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002C; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetXTRAParametersResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -2245,7 +2270,7 @@ ZOVQMI_API int zovQMIPDSForceXTRADownloadReq(uint8_t* buf, int bufsize);
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002D; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSForceXTRADownloadResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -2270,7 +2295,7 @@ ZOVQMI_API int zovQMIPDSGetAGPSConfigReq(uint8_t* buf, int bufsize);
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002E; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSGetAGPSConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -2281,7 +2306,8 @@ ZOVQMI_API int zovQMIPDSGetAGPSConfigResp(const uint8_t* msg, int len, QmiResult
  * @param port Receives the port (native); required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002E; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSGetAGPSConfigRespGetAGPSLocationServerIPv4(const uint8_t* msg, int len, uint32_t* address,
                                                                   uint32_t* port);
@@ -2295,7 +2321,8 @@ ZOVQMI_API int zovQMIPDSGetAGPSConfigRespGetAGPSLocationServerIPv4(const uint8_t
  *   @p length is delivered.
  * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002E; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSGetAGPSConfigRespGetAGPSLocationServerURL(const uint8_t* msg, int len, uint8_t* length,
                                                                  void* data);
@@ -2346,7 +2373,7 @@ ZOVQMI_API int zovQMIPDSSetAGPSConfigReqAddAGPSLocationServerURL(uint8_t* buf, i
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002F; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetAGPSConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -2373,8 +2400,8 @@ ZOVQMI_API int zovQMIPDSGetCOMPortConfigReq(uint8_t* buf, int bufsize);
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
  *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000032; ZOVQMI_ERR_NO_TLV when
  *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
- *   then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (the outputs of item
+ *   0x01 are not written then).
  */
 ZOVQMI_API int zovQMIPDSGetCOMPortConfigResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* port);
 /** @} */
@@ -2400,7 +2427,7 @@ ZOVQMI_API int zovQMIPDSSetCOMPortConfigReq(uint8_t* buf, int bufsize, uint8_t p
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0033; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetCOMPortConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -2446,7 +2473,7 @@ ZOVQMI_API int zovQMIPDSResetGPSServiceDataReqAddGPSServiceCellDBData(uint8_t* b
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0034; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSResetGPSServiceDataResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -2474,8 +2501,8 @@ ZOVQMI_API int zovQMIPDSGetGPSServiceVersionReq(uint8_t* buf, int bufsize);
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
  *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000036; ZOVQMI_ERR_NO_TLV when
  *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
- *   then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (the outputs of item
+ *   0x01 are not written then).
  */
 ZOVQMI_API int zovQMIPDSGetGPSServiceVersionResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* major,
                                                 uint8_t* minor);
@@ -2507,7 +2534,7 @@ ZOVQMI_API int zovQMIPDSInjectXTRADataReq(uint8_t* buf, int bufsize, uint8_t seq
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0037; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSInjectXTRADataResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -2646,7 +2673,7 @@ ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddTimeType(uint8_t* buf, int bufsi
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0038; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSInjectPositionDataResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -2713,7 +2740,7 @@ ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataReqAddWiFiPositionAPInformation(ui
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0039; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -2738,7 +2765,7 @@ ZOVQMI_API int zovQMIPDSGetSBASConfigReq(uint8_t* buf, int bufsize);
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003A; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSGetSBASConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -2748,7 +2775,8 @@ ZOVQMI_API int zovQMIPDSGetSBASConfigResp(const uint8_t* msg, int len, QmiResult
  * @param config Receives the SBAS setting: 1 enabled, 0 disabled; required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003A; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSGetSBASConfigRespGetSBASConfiguration(const uint8_t* msg, int len, uint8_t* config);
 /** @} */
@@ -2784,7 +2812,7 @@ ZOVQMI_API int zovQMIPDSSetSBASConfigReqAddSBASConfiguration(uint8_t* buf, int b
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003B; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetSBASConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -2827,7 +2855,7 @@ ZOVQMI_API int zovQMIPDSInjectAbsTimeRefReqAddAbsoluteTimeInjection(uint8_t* buf
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003D; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSInjectAbsTimeRefResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -2855,7 +2883,7 @@ ZOVQMI_API int zovQMIPDSInjectEFSDataReq(uint8_t* buf, int bufsize, const EFSFil
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003E; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSInjectEFSDataResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -2880,7 +2908,7 @@ ZOVQMI_API int zovQMIPDSGetDPOConfigReq(uint8_t* buf, int bufsize);
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003F; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSGetDPOConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -2890,7 +2918,8 @@ ZOVQMI_API int zovQMIPDSGetDPOConfigResp(const uint8_t* msg, int len, QmiResult*
  * @param config Receives the DPO setting; required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003F; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSGetDPOConfigRespGetDPOConfiguration(const uint8_t* msg, int len, uint8_t* config);
 /** @} */
@@ -2926,7 +2955,7 @@ ZOVQMI_API int zovQMIPDSSetDPOConfigReqAddDPOConfiguration(uint8_t* buf, int buf
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0040; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetDPOConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -2951,7 +2980,7 @@ ZOVQMI_API int zovQMIPDSGetODPConfigReq(uint8_t* buf, int bufsize);
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0041; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSGetODPConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -2961,7 +2990,8 @@ ZOVQMI_API int zovQMIPDSGetODPConfigResp(const uint8_t* msg, int len, QmiResult*
  * @param config Receives the ODP setting; required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0041; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPDSGetODPConfigRespGetODPConfiguration(const uint8_t* msg, int len, uint8_t* config);
 /** @} */
@@ -2997,7 +3027,7 @@ ZOVQMI_API int zovQMIPDSSetODPConfigReqAddODPConfiguration(uint8_t* buf, int buf
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0042; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPDSSetODPConfigResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -3138,7 +3168,7 @@ ZOVQMI_API int zovQMIPBMIndicationRegisterReq(uint8_t* buf, int bufsize, uint32_
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPBMIndicationRegisterResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -3148,7 +3178,8 @@ ZOVQMI_API int zovQMIPBMIndicationRegisterResp(const uint8_t* msg, int len, QmiR
  * @param mask Receives the mask (native); required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMIndicationRegisterRespGetEventRegistrationMask(const uint8_t* msg, int len, uint32_t* mask);
 /** @} */
@@ -3175,7 +3206,7 @@ ZOVQMI_API int zovQMIPBMGetPBCapabilitiesReq(uint8_t* buf, int bufsize, uint8_t 
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0002; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPBMGetPBCapabilitiesResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -3188,7 +3219,8 @@ ZOVQMI_API int zovQMIPBMGetPBCapabilitiesResp(const uint8_t* msg, int len, QmiRe
  * @param basic Caller buffer of 8 bytes; required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0002; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetCapabilityBasicInformation(const uint8_t* msg, int len,
                                                                           uint8_t* first, uint8_t* basic);
@@ -3199,7 +3231,8 @@ ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetCapabilityBasicInformation(const
  * @param capability Caller buffer of 2 bytes; required.
  * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0002; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetGroupCapability(const uint8_t* msg, int len, uint8_t* capability);
 /**
@@ -3210,7 +3243,8 @@ ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetGroupCapability(const uint8_t* m
  * @param capability Caller buffer of 3 bytes; required.
  * @return The value length of item 0x12; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0002; ZOVQMI_ERR_NO_TLV when item 0x12 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetAdditionalNumberCapability(const uint8_t* msg, int len,
                                                                           uint8_t* capability);
@@ -3221,7 +3255,8 @@ ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetAdditionalNumberCapability(const
  * @param capability Caller buffer of 2 bytes; required.
  * @return The value length of item 0x13; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0002; ZOVQMI_ERR_NO_TLV when item 0x13 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetEmailCapability(const uint8_t* msg, int len, uint8_t* capability);
 /**
@@ -3231,7 +3266,8 @@ ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetEmailCapability(const uint8_t* m
  * @param capability Receives the byte; required.
  * @return The value length of item 0x14; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0002; ZOVQMI_ERR_NO_TLV when item 0x14 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetSecondNameCapability(const uint8_t* msg, int len,
                                                                     uint8_t* capability);
@@ -3242,7 +3278,8 @@ ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetSecondNameCapability(const uint8
  * @param capability Receives the byte; required.
  * @return The value length of item 0x15; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0002; ZOVQMI_ERR_NO_TLV when item 0x15 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMGetPBCapabilitiesRespGetHiddenRecordsCapability(const uint8_t* msg, int len,
                                                                        uint8_t* capability);
@@ -3270,7 +3307,7 @@ ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesReq(uint8_t* buf, int bufsize);
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0003; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -3282,7 +3319,8 @@ ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesResp(const uint8_t* msg, int len, Qm
  * @param caps Receives the count, the keys and the entries; required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0003; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: the getter rewrites @c count and @c key, which every array getter of this message shares.
  * @note Deliberate: counts are used as they stand: more than 6 phonebooks or 8 entries run on into the following
  *   fields of @p caps; a write past its end gives ZOVQMI_ERR_MALFORMED.
@@ -3297,7 +3335,8 @@ ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetCapabilityBasicInformationArr
  * @param caps Receives the count, the keys and the capabilities; required.
  * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0003; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: the getter rewrites @c count and @c key, which every array getter of this message shares.
  * @note Deliberate: the count is used as it stands: more than 6 entries run on into the following fields of @p
  *   caps; a write past its end gives ZOVQMI_ERR_MALFORMED.
@@ -3313,7 +3352,8 @@ ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetGroupCapabilityArray(const ui
  * @param caps Receives the count, the keys and the capabilities; required.
  * @return The value length of item 0x12; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0003; ZOVQMI_ERR_NO_TLV when item 0x12 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: the getter rewrites @c count and @c key, which every array getter of this message shares.
  * @note Deliberate: the count is used as it stands: more than 6 entries run on into the following fields of @p
  *   caps; a write past its end gives ZOVQMI_ERR_MALFORMED.
@@ -3328,7 +3368,8 @@ ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetAdditionalNumberCapabilityArr
  * @param caps Receives the count, the keys and the capabilities; required.
  * @return The value length of item 0x13; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0003; ZOVQMI_ERR_NO_TLV when item 0x13 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: the getter rewrites @c count and @c key, which every array getter of this message shares.
  * @note Deliberate: the count is used as it stands: more than 6 entries run on into the following fields of @p
  *   caps; a write past its end gives ZOVQMI_ERR_MALFORMED.
@@ -3343,7 +3384,8 @@ ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetEmailCapabilityArray(const ui
  * @param caps Receives the count, the keys and the capabilities; required.
  * @return The value length of item 0x14; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0003; ZOVQMI_ERR_NO_TLV when item 0x14 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: the getter rewrites @c count and @c key, which every array getter of this message shares.
  * @note Deliberate: the count is used as it stands: more than 6 entries run on into the following fields of @p
  *   caps; a write past its end gives ZOVQMI_ERR_MALFORMED.
@@ -3358,7 +3400,8 @@ ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesRespGetSecondNameCapabilityArray(con
  * @param caps Receives the count, the keys and the capabilities; required.
  * @return The value length of item 0x15; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0003; ZOVQMI_ERR_NO_TLV when item 0x15 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: the getter rewrites @c count and @c key, which every array getter of this message shares.
  * @note Deliberate: the count is used as it stands: more than 6 entries write past @p caps; such a write is refused
  *   with ZOVQMI_ERR_MALFORMED and nothing is written.
@@ -3393,7 +3436,7 @@ ZOVQMI_API int zovQMIPBMReadRecordsReq(uint8_t* buf, int bufsize, uint8_t select
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0004; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPBMReadRecordsResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -3403,7 +3446,8 @@ ZOVQMI_API int zovQMIPBMReadRecordsResp(const uint8_t* msg, int len, QmiResult* 
  * @param count Receives the number of records (native); required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0004; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMReadRecordsRespGetNumberOfRecords(const uint8_t* msg, int len, uint16_t* count);
 /** @} */
@@ -3425,7 +3469,8 @@ ZOVQMI_API int zovQMIPBMReadRecordsRespGetNumberOfRecords(const uint8_t* msg, in
  * @param set Receives the records; required.
  * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0004; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: lengths and the record count are used as they stand: a number longer than 40 bytes, a name
  *   longer than 242 bytes or more than 10 records are written on into the following slots of @p set; a write past
  *   its end gives ZOVQMI_ERR_MALFORMED.
@@ -3440,7 +3485,8 @@ ZOVQMI_API int zovQMIPBMRecordReadIND(const uint8_t* msg, int len, PBMRecordSet*
  * @param set Receives the ids and the names; required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0004; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: the second names are stored in the name slots, replacing the names of item 0x01, and the count
  *   and record ids are shared with item 0x01 and the other arrays.
  * @note Deliberate: a text longer than 242 bytes or more than 10 records are written on into the following slots of
@@ -3456,7 +3502,8 @@ ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofSecondNameInformation(const uint8
  * @param set Receives the ids and the numbers; required.
  * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0004; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: the numbers are stored from number slot 0 on, replacing the primary number of item 0x01 and its
  *   number count, and the count and record ids are shared with item 0x01 and the other arrays.
  * @note Deliberate: more than 4 numbers, a number longer than 40 bytes or more than 10 records are written on into
@@ -3472,7 +3519,8 @@ ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofAdditionalNumberInformation(const
  * @param set Receives the record ids and the group ids; required.
  * @return The value length of item 0x12; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0004; ZOVQMI_ERR_NO_TLV when item 0x12 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: the count and record ids are shared with item 0x01 and the other arrays.
  * @note Deliberate: more than 10 group ids or more than 10 records are written on into the following slots of @p
  *   set; a write past its end gives ZOVQMI_ERR_MALFORMED.
@@ -3488,7 +3536,8 @@ ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofGroupIDInformation(const uint8_t*
  * @param set Receives the record ids and the addresses; required.
  * @return The value length of item 0x13; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0004; ZOVQMI_ERR_NO_TLV when item 0x13 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: the count and record ids are shared with item 0x01 and the other arrays.
  * @note Deliberate: more than 2 addresses, a text longer than 242 bytes or more than 10 records are written on into
  *   the following slots of @p set; a write past its end gives ZOVQMI_ERR_MALFORMED.
@@ -3502,7 +3551,8 @@ ZOVQMI_API int zovQMIPBMRecordReadINDGetArrayofEmailInformation(const uint8_t* m
  * @param set Receives the record ids and the flags; required.
  * @return The value length of item 0x14; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0004; ZOVQMI_ERR_NO_TLV when item 0x14 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: the count and record ids are shared with item 0x01 and the other arrays.
  * @note Deliberate: the ids of records beyond the tenth are written on into the following fields of @p set; the
  *   flag of an eleventh record would pass its end and gives ZOVQMI_ERR_MALFORMED.
@@ -3597,7 +3647,7 @@ ZOVQMI_API int zovQMIPBMWriteRecordReqAddHiddenInformation(uint8_t* buf, int buf
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0005; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPBMWriteRecordResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -3607,7 +3657,8 @@ ZOVQMI_API int zovQMIPBMWriteRecordResp(const uint8_t* msg, int len, QmiResult* 
  * @param recordInfo Receives the record information (native); required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0005; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMWriteRecordRespGetRecordInfo(const uint8_t* msg, int len, uint16_t* recordInfo);
 /** @} */
@@ -3636,7 +3687,7 @@ ZOVQMI_API int zovQMIPBMDeleteRecordReq(uint8_t* buf, int bufsize, uint8_t selec
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0006; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPBMDeleteRecordResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -3646,7 +3697,8 @@ ZOVQMI_API int zovQMIPBMDeleteRecordResp(const uint8_t* msg, int len, QmiResult*
  * @param recordId Receives the record id (native); required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0006; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMDeleteRecordRespGetRecordID(const uint8_t* msg, int len, uint16_t* recordId);
 /** @} */
@@ -3674,7 +3726,7 @@ ZOVQMI_API int zovQMIPBMDeleteAllPBRecordsReq(uint8_t* buf, int bufsize, uint8_t
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0007; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPBMDeleteAllPBRecordsResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -3727,7 +3779,7 @@ ZOVQMI_API int zovQMIPBMSearchRecordsReqAddNameInformation(uint8_t* buf, int buf
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0008; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPBMSearchRecordsResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -3740,7 +3792,8 @@ ZOVQMI_API int zovQMIPBMSearchRecordsResp(const uint8_t* msg, int len, QmiResult
  *   delivered.  Its size is not checked.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0008; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMSearchRecordsRespGetRecordIDsList(const uint8_t* msg, int len, uint16_t* count,
                                                          uint16_t* ids);
@@ -3761,7 +3814,8 @@ ZOVQMI_API int zovQMIPBMSearchRecordsRespGetRecordIDsList(const uint8_t* msg, in
  * @param fourth Receives the second word (native); required.
  * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0009; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMRecordUpdateIND(const uint8_t* msg, int len, uint8_t* first, uint16_t* second,
                                         uint8_t* third, uint16_t* fourth);
@@ -3781,7 +3835,8 @@ ZOVQMI_API int zovQMIPBMRecordUpdateIND(const uint8_t* msg, int len, uint8_t* fi
  * @param third Receives the last byte; required.
  * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000A; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMRefreshIND(const uint8_t* msg, int len, uint8_t* first, uint16_t* second, uint8_t* third);
 /** @} */
@@ -3799,7 +3854,8 @@ ZOVQMI_API int zovQMIPBMRefreshIND(const uint8_t* msg, int len, uint8_t* first, 
  * @param selectorWord Receives the selector word (native); required.
  * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000B; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMPBReadyIND(const uint8_t* msg, int len, uint8_t* selectorByte, uint16_t* selectorWord);
 /** @} */
@@ -3820,7 +3876,8 @@ ZOVQMI_API int zovQMIPBMPBReadyIND(const uint8_t* msg, int len, uint8_t* selecto
  *   checked.
  * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000C; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: the walk keeps its offset in 8 bits, so a list longer than 255 bytes wraps back to its start.
  * @note Deliberate: a number longer than 6 bytes is written on into the following element.
  */
@@ -3835,7 +3892,8 @@ ZOVQMI_API int zovQMIPBMEmergencyListIND(const uint8_t* msg, int len, uint8_t* c
  *   checked.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000C; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: the walk keeps its offset in 8 bits, so a list longer than 255 bytes wraps back to its start.
  * @note Deliberate: a number longer than 6 bytes is written on into the following element.
  */
@@ -3849,10 +3907,10 @@ ZOVQMI_API int zovQMIPBMEmergencyListINDGetNVEmergencyNumbers(const uint8_t* msg
  * @param sets Receives the sets; required.
  * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000C; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
- * @note Deliberate: counts and lengths are used as they stand: a number longer than 6 bytes, more than 256 numbers
- *   or more than 6 sets are written on into the following bytes of @p sets; a write past its end gives
- *   ZOVQMI_ERR_MALFORMED.
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
+ * @note Deliberate: counts and lengths are used as they stand: a number longer than 6 bytes or more than 6 sets are
+ *   written on into the following bytes of @p sets; a write past its end gives ZOVQMI_ERR_MALFORMED.
  */
 ZOVQMI_API int zovQMIPBMEmergencyListINDGetCardEmergencyNumbers(const uint8_t* msg, int len,
                                                                PBMEmergencyNumberSets* sets);
@@ -3864,10 +3922,10 @@ ZOVQMI_API int zovQMIPBMEmergencyListINDGetCardEmergencyNumbers(const uint8_t* m
  * @param sets Receives the sets; required.
  * @return The value length of item 0x12; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000C; ZOVQMI_ERR_NO_TLV when item 0x12 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
- * @note Deliberate: counts and lengths are used as they stand: a number longer than 6 bytes, more than 256 numbers
- *   or more than 6 sets are written on into the following bytes of @p sets; a write past its end gives
- *   ZOVQMI_ERR_MALFORMED.
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
+ * @note Deliberate: counts and lengths are used as they stand: a number longer than 6 bytes or more than 6 sets are
+ *   written on into the following bytes of @p sets; a write past its end gives ZOVQMI_ERR_MALFORMED.
  */
 ZOVQMI_API int zovQMIPBMEmergencyListINDGetNetworkEmergencyNumbers(const uint8_t* msg, int len,
                                                                   PBMEmergencyNumberSets* sets);
@@ -3887,7 +3945,8 @@ ZOVQMI_API int zovQMIPBMEmergencyListINDGetNetworkEmergencyNumbers(const uint8_t
  * @param words Caller array of n words that receives the words (native); may be null.
  * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000D; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMAllPBInitDoneIND(const uint8_t* msg, int len, uint8_t* count, uint8_t* keys,
                                          uint16_t* words);
@@ -3913,7 +3972,7 @@ ZOVQMI_API int zovQMIPBMGetEmergencyListReq(uint8_t* buf, int bufsize);
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000E; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPBMGetEmergencyListResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -3927,7 +3986,8 @@ ZOVQMI_API int zovQMIPBMGetEmergencyListResp(const uint8_t* msg, int len, QmiRes
  *   checked.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000E; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: the walk keeps its offset in 8 bits, so a list longer than 255 bytes wraps back to its start.
  * @note Deliberate: a number longer than 6 bytes is written on into the following element.
  */
@@ -3943,7 +4003,8 @@ ZOVQMI_API int zovQMIPBMGetEmergencyListRespGetHardCodedEmergencyNumbers(const u
  *   checked.
  * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000E; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: the walk keeps its offset in 8 bits, so a list longer than 255 bytes wraps back to its start.
  * @note Deliberate: a number longer than 6 bytes is written on into the following element.
  */
@@ -3957,10 +4018,10 @@ ZOVQMI_API int zovQMIPBMGetEmergencyListRespGetNVEmergencyNumbers(const uint8_t*
  * @param sets Receives the sets; required.
  * @return The value length of item 0x12; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000E; ZOVQMI_ERR_NO_TLV when item 0x12 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
- * @note Deliberate: counts and lengths are used as they stand: a number longer than 6 bytes, more than 256 numbers
- *   or more than 6 sets are written on into the following bytes of @p sets; a write past its end gives
- *   ZOVQMI_ERR_MALFORMED.
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
+ * @note Deliberate: counts and lengths are used as they stand: a number longer than 6 bytes or more than 6 sets are
+ *   written on into the following bytes of @p sets; a write past its end gives ZOVQMI_ERR_MALFORMED.
  */
 ZOVQMI_API int zovQMIPBMGetEmergencyListRespGetCardEmergencyNumbers(const uint8_t* msg, int len,
                                                                    PBMEmergencyNumberSets* sets);
@@ -3972,10 +4033,10 @@ ZOVQMI_API int zovQMIPBMGetEmergencyListRespGetCardEmergencyNumbers(const uint8_
  * @param sets Receives the sets; required.
  * @return The value length of item 0x13; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000E; ZOVQMI_ERR_NO_TLV when item 0x13 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
- * @note Deliberate: counts and lengths are used as they stand: a number longer than 6 bytes, more than 256 numbers
- *   or more than 6 sets are written on into the following bytes of @p sets; a write past its end gives
- *   ZOVQMI_ERR_MALFORMED.
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
+ * @note Deliberate: counts and lengths are used as they stand: a number longer than 6 bytes or more than 6 sets are
+ *   written on into the following bytes of @p sets; a write past its end gives ZOVQMI_ERR_MALFORMED.
  */
 ZOVQMI_API int zovQMIPBMGetEmergencyListRespGetNetworkEmergencyNumbers(const uint8_t* msg, int len,
                                                                       PBMEmergencyNumberSets* sets);
@@ -4001,7 +4062,7 @@ ZOVQMI_API int zovQMIPBMGetAllGroupsReq(uint8_t* buf, int bufsize);
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000F; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPBMGetAllGroupsResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -4012,7 +4073,8 @@ ZOVQMI_API int zovQMIPBMGetAllGroupsResp(const uint8_t* msg, int len, QmiResult*
  * @param groups Receives the sets; required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000F; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: counts and lengths are used as they stand: a name longer than 242 bytes, more than 40 groups or
  *   more than 6 sets are written on into the following bytes of @p groups; a write past its end gives
  *   ZOVQMI_ERR_MALFORMED.
@@ -4046,7 +4108,7 @@ ZOVQMI_API int zovQMIPBMSetGroupInfoReq(uint8_t* buf, int bufsize, uint8_t first
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0010; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPBMSetGroupInfoResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -4057,7 +4119,8 @@ ZOVQMI_API int zovQMIPBMSetGroupInfoResp(const uint8_t* msg, int len, QmiResult*
  * @param second Receives the second byte; required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0010; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMSetGroupInfoRespGetGroupIdentifier(const uint8_t* msg, int len, uint8_t* first,
                                                           uint8_t* second);
@@ -4085,7 +4148,7 @@ ZOVQMI_API int zovQMIPBMGetPBStateReq(uint8_t* buf, int bufsize, uint8_t selecto
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0011; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPBMGetPBStateResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -4097,7 +4160,8 @@ ZOVQMI_API int zovQMIPBMGetPBStateResp(const uint8_t* msg, int len, QmiResult* r
  * @param third Receives the last byte; required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0011; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMGetPBStateRespGetPhonebookState(const uint8_t* msg, int len, uint8_t* first,
                                                        uint16_t* second, uint8_t* third);
@@ -4124,7 +4188,7 @@ ZOVQMI_API int zovQMIPBMReadAllHiddenRecordsReq(uint8_t* buf, int bufsize, uint8
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0012; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIPBMReadAllHiddenRecordsResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -4134,7 +4198,8 @@ ZOVQMI_API int zovQMIPBMReadAllHiddenRecordsResp(const uint8_t* msg, int len, Qm
  * @param count Receives the number of records (native); required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0012; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMReadAllHiddenRecordsRespGetNumberofRecords(const uint8_t* msg, int len, uint16_t* count);
 /** @} */
@@ -4152,7 +4217,8 @@ ZOVQMI_API int zovQMIPBMReadAllHiddenRecordsRespGetNumberofRecords(const uint8_t
  * @param second Receives the second byte; required.
  * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0013; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIPBMHiddenRecordStatusIND(const uint8_t* msg, int len, uint8_t* first, uint8_t* second);
 /** @} */
@@ -4389,7 +4455,7 @@ ZOVQMI_API int zovQMIQOSResetReq(uint8_t* buf, int bufsize);
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0000; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIQOSResetResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -4438,7 +4504,7 @@ ZOVQMI_API int zovQMIQOSSetEventReportReqAddNetworkSupportedQoSProfileChange(uin
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIQOSSetEventReportResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -4461,7 +4527,8 @@ ZOVQMI_API int zovQMIQOSSetEventReportIND(const uint8_t* msg, int len);
  *   numbers found; required.  The arrays' size is not checked.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: every flow and filter item is counted, even when its array is null or the element cannot be
  *   parsed; the counts are single bytes and wrap after 255.
  */
@@ -4475,7 +4542,8 @@ ZOVQMI_API int zovQMIQOSSetEventReportINDGetQoSFlowInfo(const uint8_t* msg, int 
  *   receives the values; required.
  * @return The value length of item 0x11; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when item 0x11 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIQOSSetEventReportINDGetNetworkSupportedQoSProfiles(const uint8_t* msg, int len,
                                                                        QoSProfileList* list);
@@ -4530,8 +4598,8 @@ ZOVQMI_API int zovQMIQOSRequestQoSReqAddQoSRequestOpcode(uint8_t* buf, int bufsi
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
  *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0020; ZOVQMI_ERR_NO_TLV when
  *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
- *   then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (the outputs of item
+ *   0x01 are not written then).
  */
 ZOVQMI_API int zovQMIQOSRequestQoSResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
                                        uint32_t* identifiers);
@@ -4547,7 +4615,8 @@ ZOVQMI_API int zovQMIQOSRequestQoSResp(const uint8_t* msg, int len, QmiResult* r
  *   counts the numbers found; required.  The arrays' size is not checked.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0020; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: only flow and filter items whose nested item 0x10 is non-empty are counted, but those are
  *   counted even when their array is null; the counts are single bytes and wrap after 255.
  */
@@ -4580,7 +4649,7 @@ ZOVQMI_API int zovQMIQOSReleaseQoSReq(uint8_t* buf, int bufsize, uint8_t count, 
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0021; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIQOSReleaseQoSResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -4610,7 +4679,7 @@ ZOVQMI_API int zovQMIQOSSuspendQoSReq(uint8_t* buf, int bufsize, uint8_t count, 
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0022; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIQOSSuspendQoSResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -4640,7 +4709,7 @@ ZOVQMI_API int zovQMIQOSResumeQoSReq(uint8_t* buf, int bufsize, uint8_t count, c
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0023; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIQOSResumeQoSResp(const uint8_t* msg, int len, QmiResult* result);
 /** @} */
@@ -4691,7 +4760,7 @@ ZOVQMI_API int zovQMIQOSModifyQoSReqAddPrimaryQoSModifyRequest(uint8_t* buf, int
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0024; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIQOSModifyQoSResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -4704,7 +4773,8 @@ ZOVQMI_API int zovQMIQOSModifyQoSResp(const uint8_t* msg, int len, QmiResult* re
  *   counts the numbers found; required.  The arrays' size is not checked.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0024; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  * @note Deliberate: only flow and filter items whose nested item 0x10 is non-empty are counted, but those are
  *   counted even when their array is null; the counts are single bytes and wrap after 255.
  */
@@ -4742,7 +4812,7 @@ ZOVQMI_API int zovQMIQOSGetGrantedQoSReqAddPrimaryGrantedQoSRequest(uint8_t* buf
  * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0025; ZOVQMI_ERR_NO_TLV when the result item is
- *   missing; ZOVQMI_ERR_MALFORMED when an item runs past the end of @p msg.
+ *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
  */
 ZOVQMI_API int zovQMIQOSGetGrantedQoSResp(const uint8_t* msg, int len, QmiResult* result);
 /**
@@ -4780,7 +4850,8 @@ ZOVQMI_API int zovQMIQOSGetGrantedQoSRespGetRxQoSGrantedFlow(const uint8_t* msg,
  * @param error Receives the extended error code (native); required.
  * @return The value length of item 0xE0; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0025; ZOVQMI_ERR_NO_TLV when item 0xE0 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIQOSGetGrantedQoSRespGetExtendedErrorInfo(const uint8_t* msg, int len, uint16_t* error);
 /** @} */
@@ -4808,8 +4879,8 @@ ZOVQMI_API int zovQMIQOSGetQoSStatusReq(uint8_t* buf, int bufsize, uint32_t iden
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
  *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0026; ZOVQMI_ERR_NO_TLV when
  *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
- *   then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (the outputs of item
+ *   0x01 are not written then).
  */
 ZOVQMI_API int zovQMIQOSGetQoSStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status);
 /**
@@ -4821,7 +4892,8 @@ ZOVQMI_API int zovQMIQOSGetQoSStatusResp(const uint8_t* msg, int len, QmiResult*
  * @param event Receives the event that changed it; required.
  * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0026; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIQOSStatusIND(const uint8_t* msg, int len, uint32_t* identifier, uint8_t* status,
                                   uint8_t* event);
@@ -4832,7 +4904,8 @@ ZOVQMI_API int zovQMIQOSStatusIND(const uint8_t* msg, int len, uint32_t* identif
  * @param reason Receives the reason code; required.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0026; ZOVQMI_ERR_NO_TLV when item 0x10 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIQOSStatusINDGetReasonCode(const uint8_t* msg, int len, uint8_t* reason);
 /** @} */
@@ -4860,8 +4933,8 @@ ZOVQMI_API int zovQMIQOSGetQoSNetworkStatusReq(uint8_t* buf, int bufsize);
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
  *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0027; ZOVQMI_ERR_NO_TLV when
  *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
- *   then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (the outputs of item
+ *   0x01 are not written then).
  */
 ZOVQMI_API int zovQMIQOSGetQoSNetworkStatusResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* status);
 /**
@@ -4871,7 +4944,8 @@ ZOVQMI_API int zovQMIQOSGetQoSNetworkStatusResp(const uint8_t* msg, int len, Qmi
  * @param status Receives the network's QoS support as the modem sends it; required.
  * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0027; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIQOSNetworkStatusIND(const uint8_t* msg, int len, uint8_t* status);
 /** @} */
@@ -4913,8 +4987,8 @@ ZOVQMI_API int zovQMIQOSGetNWSupportedQoSProfilesReqAddExtendedTechnologyPrefere
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
  *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0028; ZOVQMI_ERR_NO_TLV when
  *   the result item is missing; ZOVQMI_ERR_NO_MANDATORY when item 0x01 is missing (@p result is filled already);
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (the outputs of item 0x01 are not written
- *   then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (the outputs of item
+ *   0x01 are not written then).
  */
 ZOVQMI_API int zovQMIQOSGetNWSupportedQoSProfilesResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
                                                       QoSProfileList* lists);
@@ -4925,7 +4999,8 @@ ZOVQMI_API int zovQMIQOSGetNWSupportedQoSProfilesResp(const uint8_t* msg, int le
  * @param error Receives the extended error code (native); required.
  * @return The value length of item 0xE0; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0028; ZOVQMI_ERR_NO_TLV when item 0xE0 is absent;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIQOSGetNWSupportedQoSProfilesRespGetExtendedErrorInfo(const uint8_t* msg, int len,
                                                                          uint16_t* error);
@@ -4943,7 +5018,8 @@ ZOVQMI_API int zovQMIQOSGetNWSupportedQoSProfilesRespGetExtendedErrorInfo(const 
  * @param event Receives the event code (native); required.
  * @return The length of the message's TLV area; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
  *   ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0029; ZOVQMI_ERR_NO_TLV when item 0x01 is missing;
- *   ZOVQMI_ERR_MALFORMED when a field lies beyond the end of @p msg (nothing is written then).
+ *   ZOVQMI_ERR_MALFORMED when an item header or a field read lies beyond the end of @p msg (nothing is written
+ *   then).
  */
 ZOVQMI_API int zovQMIQOSPrimaryQoSEventIND(const uint8_t* msg, int len, uint16_t* event);
 /** @} */
