@@ -1275,7 +1275,8 @@ ZOVQMI_API int zovQMIPDSResetReq(uint8_t* buf, int bufsize);
  * Parses the Reset (0x0000) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0000; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -1416,7 +1417,8 @@ ZOVQMI_API int zovQMIPDSSetEventReportReqAddPDSCommEvents(uint8_t* buf, int bufs
  * Parses the SetEventReport (0x0001) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -1640,7 +1642,8 @@ ZOVQMI_API int zovQMIPDSGetGPSServiceStateReq(uint8_t* buf, int bufsize);
  * Parses the GetGPSServiceState (0x0020) response: result item 0x02 and item 0x01 (2 bytes).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @param enabled Receives the service state: 0 disabled, 1 enabled; required.
  * @param trackingState Receives the tracking state as the modem sends it; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
@@ -1683,7 +1686,8 @@ ZOVQMI_API int zovQMIPDSSetGPSServiceStateReq(uint8_t* buf, int bufsize, uint8_t
  * Parses the SetGPSServiceState (0x0021) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0021; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -1709,7 +1713,8 @@ ZOVQMI_API int zovQMIPDSGetDefaultTrackingSessionReq(uint8_t* buf, int bufsize);
  * bytes).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @param mode Receives the session operating mode; required.
  * @param timeout Receives the time the engine may spend on one fix, in seconds; required.
  * @param interval Receives the interval between fixes, in milliseconds (native); required.
@@ -1746,7 +1751,8 @@ ZOVQMI_API int zovQMIPDSSetDefaultTrackingSessionReq(uint8_t* buf, int bufsize, 
  * Parses the SetDefaultTrackingSession (0x002A) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002A; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -1771,7 +1777,8 @@ ZOVQMI_API int zovQMIPDSGetAutoTrackingStateReq(uint8_t* buf, int bufsize);
  * Parses the GetAutoTrackingState (0x0030) response: result item 0x02 and item 0x01 (1 byte).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @param state Receives the automatic tracking state: 0 off, 1 on; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
  *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000030; ZOVQMI_ERR_NO_TLV when
@@ -1800,7 +1807,8 @@ ZOVQMI_API int zovQMIPDSSetAutoTrackingStateReq(uint8_t* buf, int bufsize, uint8
  * Parses the SetAutoTrackingState (0x0031) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0031; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -1857,7 +1865,8 @@ ZOVQMI_API int zovQMIPDSDetermineSinglePositionReqAddSinglePositionAccuracy(uint
  * Parses the DetermineSinglePosition (0x0035) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0035; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -1924,7 +1933,8 @@ ZOVQMI_API int zovQMIPDSSendNIResponseReqAddNetworkInitiatedPromptUMTSCP(uint8_t
  * Parses the SendNIResponse (0x003C) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003C; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -1949,7 +1959,8 @@ ZOVQMI_API int zovQMIPDSCancelSinglePositionReq(uint8_t* buf, int bufsize);
  * Parses the CancelSinglePosition (0x0043) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0043; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -1974,7 +1985,8 @@ ZOVQMI_API int zovQMIPDSGetGPSStateInfoReq(uint8_t* buf, int bufsize);
  * Parses the GetGPSStateInfo (0x0044) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0044; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2014,7 +2026,8 @@ ZOVQMI_API int zovQMIPDSGetNMEAConfigReq(uint8_t* buf, int bufsize);
  * Parses the GetNMEAConfig (0x0026) response: result item 0x02 and item 0x01 (3 bytes).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @param sentenceMask Receives the bit mask of NMEA sentences emitted; required.
  * @param port Receives the output port; required.
  * @param reporting Receives the reporting rate setting; required.
@@ -2049,7 +2062,8 @@ ZOVQMI_API int zovQMIPDSSetNMEAConfigReq(uint8_t* buf, int bufsize, uint8_t sent
  * Parses the SetNMEAConfig (0x0027) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0027; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2077,7 +2091,8 @@ ZOVQMI_API int zovQMIPDSInjectRelativeTimeRefReq(uint8_t* buf, int bufsize, uint
  * Parses the InjectRelativeTimeRef (0x0028) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0028; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2102,7 +2117,8 @@ ZOVQMI_API int zovQMIPDSGetXTRAParametersReq(uint8_t* buf, int bufsize);
  * Parses the GetXTRAParameters (0x002B) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002B; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2242,7 +2258,8 @@ ZOVQMI_API int zovQMIPDSSetXTRAParametersReqAddEmbeddedXTRAClientState(uint8_t* 
  * Parses the SetXTRAParameters (0x002C) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002C; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2267,7 +2284,8 @@ ZOVQMI_API int zovQMIPDSForceXTRADownloadReq(uint8_t* buf, int bufsize);
  * Parses the ForceXTRADownload (0x002D) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002D; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2292,7 +2310,8 @@ ZOVQMI_API int zovQMIPDSGetAGPSConfigReq(uint8_t* buf, int bufsize);
  * Parses the GetAGPSConfig (0x002E) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002E; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2370,7 +2389,8 @@ ZOVQMI_API int zovQMIPDSSetAGPSConfigReqAddAGPSLocationServerURL(uint8_t* buf, i
  * Parses the SetAGPSConfig (0x002F) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x002F; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2395,7 +2415,8 @@ ZOVQMI_API int zovQMIPDSGetCOMPortConfigReq(uint8_t* buf, int bufsize);
  * Parses the GetCOMPortConfig (0x0032) response: result item 0x02 and item 0x01 (1 byte).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @param port Receives the COM port setting; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
  *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000032; ZOVQMI_ERR_NO_TLV when
@@ -2424,7 +2445,8 @@ ZOVQMI_API int zovQMIPDSSetCOMPortConfigReq(uint8_t* buf, int bufsize, uint8_t p
  * Parses the SetCOMPortConfig (0x0033) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0033; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2470,7 +2492,8 @@ ZOVQMI_API int zovQMIPDSResetGPSServiceDataReqAddGPSServiceCellDBData(uint8_t* b
  * Parses the ResetGPSServiceData (0x0034) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0034; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2495,7 +2518,8 @@ ZOVQMI_API int zovQMIPDSGetGPSServiceVersionReq(uint8_t* buf, int bufsize);
  * Parses the GetGPSServiceVersion (0x0036) response: result item 0x02 and item 0x01 (2 bytes).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @param major Receives the major version; required.
  * @param minor Receives the minor version; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
@@ -2531,7 +2555,8 @@ ZOVQMI_API int zovQMIPDSInjectXTRADataReq(uint8_t* buf, int bufsize, uint8_t seq
  * Parses the InjectXTRAData (0x0037) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0037; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2670,7 +2695,8 @@ ZOVQMI_API int zovQMIPDSInjectPositionDataReqAddTimeType(uint8_t* buf, int bufsi
  * Parses the InjectPositionData (0x0038) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0038; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2737,7 +2763,8 @@ ZOVQMI_API int zovQMIPDSInjectWiFiPositionDataReqAddWiFiPositionAPInformation(ui
  * Parses the InjectWiFiPositionData (0x0039) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0039; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2762,7 +2789,8 @@ ZOVQMI_API int zovQMIPDSGetSBASConfigReq(uint8_t* buf, int bufsize);
  * Parses the GetSBASConfig (0x003A) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003A; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2809,7 +2837,8 @@ ZOVQMI_API int zovQMIPDSSetSBASConfigReqAddSBASConfiguration(uint8_t* buf, int b
  * Parses the SetSBASConfig (0x003B) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003B; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2852,7 +2881,8 @@ ZOVQMI_API int zovQMIPDSInjectAbsTimeRefReqAddAbsoluteTimeInjection(uint8_t* buf
  * Parses the InjectAbsTimeRef (0x003D) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003D; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2880,7 +2910,8 @@ ZOVQMI_API int zovQMIPDSInjectEFSDataReq(uint8_t* buf, int bufsize, const EFSFil
  * Parses the InjectEFSData (0x003E) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003E; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2905,7 +2936,8 @@ ZOVQMI_API int zovQMIPDSGetDPOConfigReq(uint8_t* buf, int bufsize);
  * Parses the GetDPOConfig (0x003F) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x003F; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2952,7 +2984,8 @@ ZOVQMI_API int zovQMIPDSSetDPOConfigReqAddDPOConfiguration(uint8_t* buf, int buf
  * Parses the SetDPOConfig (0x0040) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0040; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -2977,7 +3010,8 @@ ZOVQMI_API int zovQMIPDSGetODPConfigReq(uint8_t* buf, int bufsize);
  * Parses the GetODPConfig (0x0041) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0041; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -3024,7 +3058,8 @@ ZOVQMI_API int zovQMIPDSSetODPConfigReqAddODPConfiguration(uint8_t* buf, int buf
  * Parses the SetODPConfig (0x0042) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0042; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -3165,7 +3200,8 @@ ZOVQMI_API int zovQMIPBMIndicationRegisterReq(uint8_t* buf, int bufsize, uint32_
  * Parses the IndicationRegister (0x0001) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -3203,7 +3239,8 @@ ZOVQMI_API int zovQMIPBMGetPBCapabilitiesReq(uint8_t* buf, int bufsize, uint8_t 
  * Parses the GetPBCapabilities (0x0002) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0002; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -3304,7 +3341,8 @@ ZOVQMI_API int zovQMIPBMGetAllPBCapabilitiesReq(uint8_t* buf, int bufsize);
  * Parses the GetAllPBCapabilities (0x0003) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0003; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -3433,7 +3471,8 @@ ZOVQMI_API int zovQMIPBMReadRecordsReq(uint8_t* buf, int bufsize, uint8_t select
  * Parses the ReadRecords (0x0004) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0004; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -3644,7 +3683,8 @@ ZOVQMI_API int zovQMIPBMWriteRecordReqAddHiddenInformation(uint8_t* buf, int buf
  * Parses the WriteRecord (0x0005) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0005; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -3684,7 +3724,8 @@ ZOVQMI_API int zovQMIPBMDeleteRecordReq(uint8_t* buf, int bufsize, uint8_t selec
  * Parses the DeleteRecord (0x0006) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0006; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -3723,7 +3764,8 @@ ZOVQMI_API int zovQMIPBMDeleteAllPBRecordsReq(uint8_t* buf, int bufsize, uint8_t
  * Parses the DeleteAllPBRecords (0x0007) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0007; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -3776,7 +3818,8 @@ ZOVQMI_API int zovQMIPBMSearchRecordsReqAddNameInformation(uint8_t* buf, int buf
  * Parses the SearchRecords (0x0008) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0008; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -3969,7 +4012,8 @@ ZOVQMI_API int zovQMIPBMGetEmergencyListReq(uint8_t* buf, int bufsize);
  * Parses the GetEmergencyList (0x000E) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000E; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -4059,7 +4103,8 @@ ZOVQMI_API int zovQMIPBMGetAllGroupsReq(uint8_t* buf, int bufsize);
  * Parses the GetAllGroups (0x000F) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x000F; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -4105,7 +4150,8 @@ ZOVQMI_API int zovQMIPBMSetGroupInfoReq(uint8_t* buf, int bufsize, uint8_t first
  * Parses the SetGroupInfo (0x0010) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0010; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -4145,7 +4191,8 @@ ZOVQMI_API int zovQMIPBMGetPBStateReq(uint8_t* buf, int bufsize, uint8_t selecto
  * Parses the GetPBState (0x0011) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0011; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -4185,7 +4232,8 @@ ZOVQMI_API int zovQMIPBMReadAllHiddenRecordsReq(uint8_t* buf, int bufsize, uint8
  * Parses the ReadAllHiddenRecords (0x0012) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0012; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -4452,7 +4500,8 @@ ZOVQMI_API int zovQMIQOSResetReq(uint8_t* buf, int bufsize);
  * Parses the Reset (0x0000) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0000; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -4501,7 +4550,8 @@ ZOVQMI_API int zovQMIQOSSetEventReportReqAddNetworkSupportedQoSProfileChange(uin
  * Parses the SetEventReport (0x0001) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0001; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -4591,7 +4641,8 @@ ZOVQMI_API int zovQMIQOSRequestQoSReqAddQoSRequestOpcode(uint8_t* buf, int bufsi
  * Item 0x01 is a count, then count u32 identifiers.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @param count Receives the number of identifiers; required.
  * @param identifiers Caller array of @p count words that receives the identifiers (native); may be null, then only
  *   @p count is delivered.  Its size is not checked.
@@ -4646,7 +4697,8 @@ ZOVQMI_API int zovQMIQOSReleaseQoSReq(uint8_t* buf, int bufsize, uint8_t count, 
  * Parses the ReleaseQoS (0x0021) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0021; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -4676,7 +4728,8 @@ ZOVQMI_API int zovQMIQOSSuspendQoSReq(uint8_t* buf, int bufsize, uint8_t count, 
  * Parses the SuspendQoS (0x0022) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0022; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -4706,7 +4759,8 @@ ZOVQMI_API int zovQMIQOSResumeQoSReq(uint8_t* buf, int bufsize, uint8_t count, c
  * Parses the ResumeQoS (0x0023) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0023; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -4757,7 +4811,8 @@ ZOVQMI_API int zovQMIQOSModifyQoSReqAddPrimaryQoSModifyRequest(uint8_t* buf, int
  * Parses the ModifyQoS (0x0024) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0024; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -4809,7 +4864,8 @@ ZOVQMI_API int zovQMIQOSGetGrantedQoSReqAddPrimaryGrantedQoSRequest(uint8_t* buf
  * Parses the GetGrantedQoS (0x0025) response: copies its result item 0x02.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg or
  *   @p result; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0025; ZOVQMI_ERR_NO_TLV when the result item is
  *   missing; ZOVQMI_ERR_MALFORMED when an item header or the result codes lie beyond the end of @p msg.
@@ -4874,7 +4930,8 @@ ZOVQMI_API int zovQMIQOSGetQoSStatusReq(uint8_t* buf, int bufsize, uint32_t iden
  * Parses the GetQoSStatus (0x0026) response: result item 0x02 and item 0x01, the status (1 byte).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @param status Receives the status of the reservation as the modem sends it; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
  *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0026; ZOVQMI_ERR_NO_TLV when
@@ -4928,7 +4985,8 @@ ZOVQMI_API int zovQMIQOSGetQoSNetworkStatusReq(uint8_t* buf, int bufsize);
  * byte).
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @param status Receives the network's QoS support as the modem sends it; required.
  * @return The length of the message's TLV area, whatever the result code says; ZOVQMI_ERR_ARG for a null @p msg, @p
  *   result or required output; ZOVQMI_ERR_NO_MESSAGE when @p msg holds no message 0x0027; ZOVQMI_ERR_NO_TLV when
@@ -4980,7 +5038,8 @@ ZOVQMI_API int zovQMIQOSGetNWSupportedQoSProfilesReqAddExtendedTechnologyPrefere
  * Item 0x01 is a count, then count lists back to back, each 3 + 2 per profile bytes.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param result Receives the result and error codes of item 0x02 (little-endian bytes); required.
+ * @param result Receives the result item 0x02: result code (0 success, 1 failure) and error code, as little-endian
+ *   bytes; required.
  * @param count Receives the number of lists; required.
  * @param lists Caller array of @p count records, each with its @c profiles pointer set beforehand (or null); may be
  *   null, then only @p count is delivered.  Its size is not checked.
