@@ -3623,7 +3623,8 @@ ZOVQMI_API int zovQMIPBMWriteRecordReq(uint8_t* buf, int bufsize, const PBMRecor
  * The value is the slot's length byte and text: appends 4 + length bytes.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
- * @param textSlot A 243-byte text slot (PBMTextSlot layout); required.
+ * @param textSlot A 243-byte text slot (PBMTextSlot layout); required.  A length byte above 242 reads on past the
+ *   slot.
  * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf or @p textSlot; ZOVQMI_ERR_NO_ROOM when the item
  *   does not fit in @p bufsize (the message is left as it was).
  */
@@ -3636,7 +3637,7 @@ ZOVQMI_API int zovQMIPBMWriteRecordReqAddSecondNameInformation(uint8_t* buf, int
  * @param bufsize Capacity of @p buf in bytes.
  * @param count Number of number slots.
  * @param numberSlots @p count consecutive 44-byte number slots (PBMNumberSlot layout); may be null only when @p
- *   count is 0.
+ *   count is 0.  A length byte above 40 reads on past the number bytes of its slot.
  * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf, or a nonzero @p count with a null @p
  *   numberSlots; ZOVQMI_ERR_NO_ROOM when the item does not fit in @p bufsize; ZOVQMI_ERR_MALFORMED when the value
  *   would exceed 1024 bytes; the message is left as it was on failure.
@@ -3662,7 +3663,7 @@ ZOVQMI_API int zovQMIPBMWriteRecordReqAddGroupIDInformation(uint8_t* buf, int bu
  * @param bufsize Capacity of @p buf in bytes.
  * @param count Number of addresses.
  * @param textSlots @p count consecutive 243-byte text slots (PBMTextSlot layout); may be null only when @p count is
- *   0.
+ *   0.  A length byte above 242 reads on past its slot.
  * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf, or a nonzero @p count with a null @p textSlots;
  *   ZOVQMI_ERR_NO_ROOM when the item does not fit in @p bufsize; ZOVQMI_ERR_MALFORMED when the value would exceed
  *   1024 bytes; the message is left as it was on failure.
@@ -4140,7 +4141,8 @@ ZOVQMI_API int zovQMIPBMGetAllGroupsRespGetGroupsData(const uint8_t* msg, int le
  * @param first First byte, carried verbatim.
  * @param second Second byte, carried verbatim.
  * @param third Third byte, carried verbatim.
- * @param textSlot A 243-byte text slot (PBMTextSlot layout) with the group name; required.
+ * @param textSlot A 243-byte text slot (PBMTextSlot layout) with the group name; required.  A length byte above 242
+ *   reads on past the slot.
  * @return 14 + the text length, the request length; ZOVQMI_ERR_ARG when @p buf or @p textSlot is null or @p bufsize
  *   is too small (nothing is written).
  */
