@@ -1,5 +1,6 @@
 // The proxy: the router's decisions one frame at a time, then the server
 // between the simulated modem and several sessions over its socket.
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <memory>
@@ -321,4 +322,36 @@ TEST_F(ProxyFixture, LocalConnectionWorksLikeASocketOne) {
     std::unique_ptr<zovapp::Session> s(new zovapp::Session);
     s->attach(fd, true);
     EXPECT_LT(signalDbm(*s), 0) << s->error();
+}
+
+TEST_F(ProxyFixture, ProgramThatVanishesMidRequestDisturbsNoOtherSession) {
+    auto b = session();
+    uint8_t id = 0;
+    ASSERT_EQ(b->client(ZOVQMI_SERVICE_NAS, &id), zovapp::kOk);
+    {
+        // Obtains a client id, sends a request on it and goes away before the answer.
+        auto a = session();
+        uint8_t ida = 0;
+        ASSERT_EQ(a->client(ZOVQMI_SERVICE_NAS, &ida), zovapp::kOk);
+        uint8_t buf[32];
+        int n = zovQMINASGetSignalStrengthReq(buf, sizeof buf);
+        ASSERT_EQ(zovQMIDeviceWrite(a->fd(), ZOVQMI_SERVICE_NAS, ida, buf, n), n);
+    }
+    EXPECT_TRUE(nasClients(1));
+    for (int i = 0; i < 10; ++i) EXPECT_LT(signalDbm(*b), 0) << b->error();
+}
+
+TEST_F(ProxyFixture, GarbageFromOneProgramLeavesItAndTheOthersUsable) {
+    auto a = session(), b = session();
+    uint8_t id = 0;
+    ASSERT_EQ(b->client(ZOVQMI_SERVICE_NAS, &id), zovapp::kOk);
+    const uint8_t junk[] = {0x07, 0xFF, 0x00, 0x13, 0x37};
+    ASSERT_EQ(write(a->fd(), junk, sizeof junk), ssize_t(sizeof junk));
+    // A request on b's client id from a: refused, never answered.
+    uint8_t buf[32];
+    int n = zovQMINASGetSignalStrengthReq(buf, sizeof buf);
+    ASSERT_EQ(zovQMIDeviceWrite(a->fd(), ZOVQMI_SERVICE_NAS, id, buf, n), n);
+    EXPECT_LT(signalDbm(*b), 0) << b->error();
+    EXPECT_LT(signalDbm(*a), 0) << a->error();
+    EXPECT_EQ(a->keptIndications(), 0);
 }
