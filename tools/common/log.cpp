@@ -22,9 +22,12 @@ void emit(bool error, const char* event, const char* state, const char* fmt, va_
         syslog(error ? LOG_ERR : LOG_INFO, "%s%s%s", state ? state : "", state ? ": " : "", text);
         break;
     case LogTarget::Json: {
+        // One line at a time, also when a second thread (the proxy) logs.
+        flockfile(stdout);
         Json j(stdout);
         j.object().num("time", (long long)time(nullptr)).str("event", event).str("state", state).str("message", text);
         j.end().line();
+        funlockfile(stdout);
         break;
     }
     case LogTarget::Stderr:

@@ -33,6 +33,10 @@ const char kUsage[] =
     "  --no-default-route       do not add default routes\n"
     "  --no-configure           leave the interface alone (the script configures it)\n"
     "  --no-sync                do not synchronise with the modem at start\n"
+    "  --proxy PATH             share the device: other programs connect to the\n"
+    "                           SOCK_SEQPACKET socket PATH and use it as the device\n"
+    "  --proxy-mode MODE        the socket's permissions, octal (default 0660)\n"
+    "  --proxy-group GROUP      the socket's group (name or number)\n"
     "  --json                   events as JSON objects on standard output\n"
     "  --syslog                 events to syslog instead of standard error\n"
     "  -h, --help               this text\n"
@@ -120,7 +124,8 @@ int parseOptions(int argc, char** argv, Config* cfg, char* err, size_t errSize) 
         bool known = is("-d") || is("--device") || is("--apn") || is("--auth") || is("--user") ||
                      is("--password") || is("--profile") || is("--ip-family") || is("--pin") ||
                      is("--ifname") || is("--resolv") || is("--state-file") || is("--script") ||
-                     is("--probe-interval") || is("--timeout") || is("--max-backoff");
+                     is("--probe-interval") || is("--timeout") || is("--max-backoff") || is("--proxy") ||
+                     is("--proxy-mode") || is("--proxy-group");
         if (!known) return USAGE("unknown option %s (see --help)", a);
         if (!needValue()) return USAGE("%s needs a value", a);
 
@@ -178,6 +183,17 @@ int parseOptions(int argc, char** argv, Config* cfg, char* err, size_t errSize) 
         } else if (is("--timeout")) {
             if (!seconds(value, 100, 600000, &cfg->timeoutMs))
                 return USAGE("bad --timeout %s (seconds, 0.1 to 600)", value);
+        } else if (is("--proxy")) {
+            if (!*value || strlen(value) >= 108) return USAGE("bad --proxy path (1 to 107 characters)");
+            cfg->proxy = value;
+        } else if (is("--proxy-mode")) {
+            char* end = nullptr;
+            unsigned long mode = strtoul(value, &end, 8);
+            if (!*value || *end || mode > 0777) return USAGE("bad --proxy-mode %s (octal, such as 0660)", value);
+            cfg->proxyMode = unsigned(mode);
+        } else if (is("--proxy-group")) {
+            if (!*value) return USAGE("--proxy-group needs a group");
+            cfg->proxyGroup = value;
         } else if (is("--max-backoff")) {
             if (!seconds(value, 1000, 86400000, &cfg->maxBackoffMs))
                 return USAGE("bad --max-backoff %s (seconds, 1 to 86400)", value);
@@ -190,6 +206,8 @@ int parseOptions(int argc, char** argv, Config* cfg, char* err, size_t errSize) 
         return USAGE("--user or --password with --auth none");
     if (cfg->user && !cfg->authGiven) cfg->auth = kAuthBoth;
     if (cfg->json && cfg->syslog) return USAGE("--json and --syslog exclude each other");
+    if ((cfg->proxyGroup || cfg->proxyMode != 0660) && !cfg->proxy)
+        return USAGE("--proxy-mode and --proxy-group go with --proxy PATH");
     return kParseOk;
 #undef USAGE
 }

@@ -50,6 +50,11 @@ struct Config {
     bool sync = true;
     bool json = false;
     bool syslog = false;
+    // The proxy that shares the device with other programs: its socket
+    // (none when null), permissions and group (-1: the process's own).
+    const char* proxy = nullptr;
+    unsigned proxyMode = 0660;
+    const char* proxyGroup = nullptr;
 };
 
 enum ParseResult { kParseOk = 0, kParseHelp = 1, kParseVersion = 3, kParseUsage = 2 };

@@ -11,7 +11,11 @@
 #include <time.h>
 #include <unistd.h>
 
+#include <grp.h>
+#include <stdlib.h>
+
 #include "log.h"
+#include "proxy.h"
 
 namespace zovconnect {
 
@@ -82,6 +86,15 @@ constexpr int kScriptMs = 30000;
 
 long long nowUnix() { return (long long)time(nullptr); }
 
+// The proxy, when --proxy asks for one: it holds the device on a thread of
+// its own, and the daemon's session is one of its connections.
+zovproxy::ProxyServer& proxyServer() {
+    static zovproxy::ProxyServer server;
+    return server;
+}
+
+void proxyLog(void*, const char* line) { logEvent("proxy", nullptr, "proxy: %s", line); }
+
 bool sameSettings(const FamilySettings& a, const FamilySettings& b) {
     if (a.present != b.present || a.family != b.family || a.prefix != b.prefix || a.haveGateway != b.haveGateway ||
         a.dnsCount != b.dnsCount || a.mtu != b.mtu || memcmp(a.address, b.address, sizeof a.address) != 0)
@@ -129,6 +142,7 @@ int Daemon::run(const Config& cfg) {
             return stop();
         }
     }
+    if (cfg_.proxy && !startProxy()) return stop();
     enter(State::Starting);
     for (;;) {
         Event ev;
@@ -269,7 +283,7 @@ Event Daemon::start() {
         c.family = family;
     }
     timeouts_ = timeouts_ >= 2 ? 0 : timeouts_;
-    int rc = s_.open(cfg_.device);
+    int rc = openSession();
     if (rc != zovapp::kOk) {
         setError("%s", s_.error());
         logError(stateName(state_), "%s", s_.error());
@@ -871,6 +885,49 @@ void Daemon::tearDown(const char* reason, bool talk) {
     publish();
 }
 
+bool Daemon::startProxy() {
+    long gid = -1;
+    if (cfg_.proxyGroup) {
+        char* end = nullptr;
+        gid = strtol(cfg_.proxyGroup, &end, 10);
+        if (*end) {
+            group* g = getgrnam(cfg_.proxyGroup);
+            if (!g) {
+                fatal(kExitFatal, "--proxy-group: no group %s", cfg_.proxyGroup);
+                return false;
+            }
+            gid = long(g->gr_gid);
+        }
+    }
+    zovproxy::ProxyServer& proxy = proxyServer();
+    proxy.setLog(proxyLog, nullptr);
+    proxy.setDevicePath(cfg_.device);
+    if (proxy.listen(cfg_.proxy, cfg_.proxyMode, gid) < 0 || proxy.start() < 0) {
+        fatal(kExitFatal, "%s", proxy.error());
+        return false;
+    }
+    snap_.device = cfg_.device;
+    snap_.proxy = cfg_.proxy;
+    logEvent("proxy", nullptr, "sharing %s on %s", cfg_.device, cfg_.proxy);
+    return true;
+}
+
+int Daemon::openSession() {
+    if (!cfg_.proxy) return s_.open(cfg_.device);
+    // The proxy opens the device itself; give it a moment at start and
+    // after the device came back.
+    zovproxy::ProxyServer& proxy = proxyServer();
+    long long until = monotonicMs() + 2 * zovproxy::kReopenMs;
+    while (!proxy.deviceOpen() && monotonicMs() < until) {
+        pollfd p = {gStopPipe[0], POLLIN, 0};
+        if (poll(&p, 1, 50) > 0) break;
+    }
+    int fd = proxy.connectLocal();
+    if (fd < 0) return s_.fail(zovapp::kDeviceGone, "cannot open %s: %s", cfg_.device, strerror(errno));
+    s_.attach(fd, true);
+    return zovapp::kOk;
+}
+
 int Daemon::stop() {
     // From here no wait outlasts the timeout, whatever the modem does (less
     // a margin for closing down and exiting).
@@ -892,6 +949,7 @@ int Daemon::stop() {
         s_.close();
     }
     s_.setDeadline(0);
+    if (cfg_.proxy) proxyServer().stop();
     logEvent("exit", stateName(state_), "exit status %d", exit_);
     return exit_;
 }

@@ -41,6 +41,9 @@ private:
     Event watch();
     Event backoff();
     int stop();
+    // Opens the session: on the device, or through the proxy that holds it.
+    int openSession();
+    bool startProxy();
 
     // Moves the machine on `event` (side effects of leaving a state).
     void handle(Event event);

@@ -97,6 +97,7 @@ void writeStateJson(FILE* out, const Snapshot& s) {
     else j.null("signal_dbm");
     j.num("reconnects", s.reconnects);
     j.str("last_error", s.lastError[0] ? s.lastError : nullptr);
+    if (s.proxy) j.str("device", s.device).str("proxy", s.proxy);
     j.end();
 }
 

@@ -46,6 +46,9 @@ struct Snapshot {
     int signalDbm = 0;
     int reconnects = 0;
     char lastError[160] = "";
+    // With a proxy: the device it holds and the socket other programs use.
+    const char* device = nullptr;
+    const char* proxy = nullptr;
 };
 
 // The state file's object on one line (without the newline).
