@@ -7,7 +7,8 @@
 #
 # Usage: connect_scenarios.sh SIM CONNECT SIMCTL SCENARIO
 #   SCENARIO: bringup-4 bringup-6 bringup-4+6 drop-call deregister stall
-#             vanish reset wrong-pin sigterm soak
+#             vanish reset wrong-pin sigterm soak proxy
+#   ZOVQMI_CLI             zovqmi-cli, for the proxy scenario
 #   ZOVQMI_TARGET_WRAPPER  runs CONNECT and SIMCTL (e.g. "qemu-mipsel -L
 #                          /usr/mipsel-linux-gnu" for a cross build)
 #   ZOVQMI_SOAK_FAULTS     faults of the soak (default 300; at most 150 s)
@@ -368,6 +369,48 @@ soak)
     [ "$fds" = "$fds0" ] || fail "$fds open descriptors at the end (started with $fds0)"
     [ "$(client_ids)" = 4 ] || fail "$(client_ids) client ids at the end (want 4: two wds, dms, nas)"
     stop_daemon 1000
+    ;;
+
+proxy)
+    # Programs beside the manager, through its proxy: five at once, each
+    # with its own client ids and 51 requests in a row.
+    [ -n "${ZOVQMI_CLI:-}" ] || fail "ZOVQMI_CLI must name zovqmi-cli"
+    start_sim --no-pin
+    start_daemon --probe-interval 1 --timeout 2 --proxy "$w/proxy.sock"
+    wait_state connected 20
+    grep -q "\"device\":\"$w/dev/cdc-wdm0\",\"proxy\":\"$w/proxy.sock\"" "$w/state.json" ||
+        fail "the state file does not name the device and the proxy socket"
+    [ "$(stat -c %a "$w/proxy.sock")" = 660 ] || fail "the proxy socket's mode is not 0660"
+    clients() { ctl status | sed -n 's/.*"clients":{\([^}]*\)}.*/\1/p'; }
+    manager=$(clients)
+    args=()
+    for i in $(seq 17); do args+=(--nas-get-signal-strength --nas-get-serving-system --dms-get-operating-mode); done
+    pids=()
+    for p in 1 2 3 4 5; do
+        "${WRAP[@]}" "$ZOVQMI_CLI" -d "$w/proxy.sock" --timeout 5000 "${args[@]}" >"$w/cli$p.out" 2>&1 &
+        pids+=($!)
+    done
+    for p in 1 2 3 4 5; do
+        wait "${pids[$((p - 1))]}" || fail "program $p failed: $(tail -3 "$w/cli$p.out")"
+        # Every answer is its own request's: the value each request expects, 17 times.
+        n=$(grep -c -- '-67 dBm' "$w/cli$p.out")
+        [ "$n" = 17 ] || fail "program $p: $n signal strengths of -67 dBm (want 17)"
+        n=$(grep -ci 'registered' "$w/cli$p.out")
+        [ "$n" -ge 17 ] || fail "program $p: $n registration lines (want 17)"
+        n=$(grep -c 'online' "$w/cli$p.out")
+        [ "$n" = 17 ] || fail "program $p: $n operating modes online (want 17)"
+    done
+    [ "$(state)" = connected ] || fail "the manager left connected ($(state))"
+    ! grep -qi 'timeout' "$w/daemon.log" || fail "the manager logged a timeout: $(grep -i timeout "$w/daemon.log" | head -1)"
+    # The programs' client ids went back with their connections.
+    until=$(($(now_ms) + 3000))
+    while [ "$(clients)" != "$manager" ]; do
+        [ "$(now_ms)" -lt "$until" ] || fail "client ids after the programs: $(clients) (manager's: $manager)"
+        sleep 0.05
+    done
+    ping4
+    stop_daemon 2000
+    [ ! -e "$w/proxy.sock" ] || fail "the proxy socket was left behind"
     ;;
 
 *)
