@@ -7,7 +7,7 @@
 #
 # Usage: connect_scenarios.sh SIM CONNECT SIMCTL SCENARIO
 #   SCENARIO: bringup-4 bringup-6 bringup-4+6 drop-call deregister stall
-#             vanish reset wrong-pin sigterm soak proxy
+#             vanish reset wrong-pin sim-absent sigterm soak proxy
 #   ZOVQMI_CLI             zovqmi-cli, for the proxy scenario
 #   ZOVQMI_TARGET_WRAPPER  runs CONNECT and SIMCTL (e.g. "qemu-mipsel -L
 #                          /usr/mipsel-linux-gnu" for a cross build)
@@ -181,7 +181,7 @@ bringup-4|bringup-6|bringup-4+6)
 
 drop-call)
     start_sim --no-pin
-    start_daemon --probe-interval 1 --timeout 1
+    start_daemon --probe-interval 1 --timeout 1 --script "$w/hook"
     wait_state connected 20
     ping4
     before=$(reconnects)
@@ -195,6 +195,24 @@ drop-call)
     [ "$(state)" = connected ] && [ "$(reconnects)" -gt "$before" ] || fail "not connected again within 5 s"
     echo "  connected again after $(($(now_ms) - t0)) ms"
     ping4
+    grep -q '^ZOVQMI_REASON=call-dropped$' "$w/hook.log" || fail "the script's down did not say call-dropped"
+    [ "$(grep -c '^action=up$' "$w/hook.log")" = 2 ] || fail "the script did not run up twice"
+    ;;
+
+sim-absent)
+    start_sim --no-pin
+    ctl sim remove >/dev/null || fail "sim remove refused"
+    start_daemon --probe-interval 1 --timeout 1
+    t0=$(now_ms)
+    while kill -0 "$dpid" 2>/dev/null; do
+        [ $(($(now_ms) - t0)) -lt 10000 ] || fail "still running 10 s without a SIM"
+        sleep 0.05
+    done
+    wait "$dpid"
+    rc=$?
+    dpid=
+    [ "$rc" = 3 ] || fail "exit status $rc without a SIM (want 3)"
+    grep -q 'SIM absent' "$w/daemon.log" || fail "the log does not say the SIM is absent"
     ;;
 
 deregister)
