@@ -9,22 +9,37 @@ namespace zq {
 // The TLV walk: continue while a whole 3-byte head fits inside areaLen, so a
 // zero-length item that ends exactly at the end of the area is found.  The
 // search starts at type 0: when no item is visited at all, asking for type 0
-// matches at area + 3 with length 0.
-int walkTlv(const uint8_t* area, int areaLen, const uint8_t* end, uint8_t type, Item* out) {
-    View v(area, end);
-    long off = 0;
-    uint8_t t = 0;
-    uint16_t length = 0;
-    while (areaLen >= off + 3) {
-        t = v.u8(static_cast<size_t>(off));
-        length = v.le16(static_cast<size_t>(off) + 1);
-        if (v.bad()) return kErrMalformed;
-        if (t == type) break;
-        off += length + 3;
+// matches at area + 3 with length 0.  Every head read must lie below `end`
+// (an area that starts beyond it has no readable head at all).
+namespace {
+// The walk itself, inlined into every helper that looks an item up (the
+// getters of one message each walk it again, so this loop is the hot path).
+__attribute__((always_inline)) inline int walkItems(const uint8_t* area, int areaLen, const uint8_t* end,
+                                                    uint8_t type, Item* out) {
+    if (areaLen < 3) {
+        if (type != 0) return kErrNoTlv;
+        *out = Item{area + 3, 0, end};
+        return 0;
     }
-    if (t != type) return kErrNoTlv;
-    *out = Item{area + off + 3, length, end};
+    if (area > end || end - area < 3) return kErrMalformed;
+    // A head may start at most at `last` (inside the area) and at most at
+    // `readable` (inside the buffer); the loop runs while both hold.
+    const unsigned long last = static_cast<unsigned long>(areaLen) - 3;
+    const unsigned long readable = static_cast<unsigned long>(end - area) - 3;
+    const unsigned long limit = last < readable ? last : readable;
+    unsigned long off = 0;
+    while (area[off] != type) {
+        off += ld16(area + off + 1) + 3ul;
+        // Stopped inside the area: the next head lies beyond the buffer.
+        if (off > limit) return off <= last ? kErrMalformed : kErrNoTlv;
+    }
+    *out = Item{area + off + 3, ld16(area + off + 1), end};
     return 0;
+}
+}  // namespace
+
+int walkTlv(const uint8_t* area, int areaLen, const uint8_t* end, uint8_t type, Item* out) {
+    return walkItems(area, areaLen, end, type, out);
 }
 
 // The message walk: continue while at least one byte lies beyond a message's
@@ -57,16 +72,18 @@ int findMessage(Header h, const uint8_t* msg, int len, uint16_t id, Message* out
     return 0;
 }
 
+namespace {
 // Only the two 16-bit codes are read; the item's length is not compared.
-int storeResult(const Message& m, QmiResult* result) {
+__attribute__((always_inline)) inline int copyResult(const Message& m, QmiResult* result) {
     Item it;
-    if (int r = findTlv(m, 0x02, &it)) return r;
-    View v(it.value, it.end);
-    const uint8_t* codes = v.bytes(0, 4);
-    if (!codes) return kErrMalformed;
-    copyBytes(result, codes, 4);
+    if (int r = walkItems(m.area, m.areaLen, m.end, 0x02, &it)) return r;
+    if (it.value > it.end || it.end - it.value < 4) return kErrMalformed;
+    copyBytes(result, it.value, 4);
     return 0;
 }
+}  // namespace
+
+int storeResult(const Message& m, QmiResult* result) { return copyResult(m, result); }
 
 int decode(const Item& it, DecoderRef f) {
     Dec dry(it, true);
@@ -77,49 +94,140 @@ int decode(const Item& it, DecoderRef f) {
     return 0;
 }
 
-int respItem(Header h, const uint8_t* msg, int len, QmiResult* result, uint16_t id, bool outsOk, DecoderRef f) {
-    if (!msg || !result || !outsOk) return kErrArg;
+namespace {
+
+// The message of a received buffer under the Ref's header.
+inline int locate(const uint8_t* msg, int len, Ref r, Message* m) {
+    if (!(r & kRefControl)) return walkMessages(msg, len, refId(r), m);
+    return findMessage(kControl, msg, len, refId(r), m);
+}
+
+// The result item, then the mandatory item 0x01 (-4 when it is missing).
+inline int locateMandatory(const Message& m, QmiResult* result, Item* it) {
+    if (int r = copyResult(m, result)) return r;
+    if (int r = walkItems(m.area, m.areaLen, m.end, 0x01, it)) return r == kErrNoTlv ? kErrNoMandatory : r;
+    return 0;
+}
+
+// True when n bytes from the start of the item's value lie inside the buffer.
+inline bool fits(const Item& it, size_t n) {
+    if (it.value > it.end) return n == 0;
+    return n <= static_cast<size_t>(it.end - it.value);
+}
+
+// A little-endian value of 1, 2, 4 or 8 bytes stored in native order.
+inline void storeValue(void* out, const uint8_t* p, unsigned width) {
+    switch (width) {
+    case 1:
+        *static_cast<uint8_t*>(out) = p[0];
+        break;
+    case 2: {
+        uint16_t v = ld16(p);
+        copyBytes(out, &v, 2);
+        break;
+    }
+    case 4: {
+        uint32_t v = ld32(p);
+        copyBytes(out, &v, 4);
+        break;
+    }
+    default: {
+        uint64_t v = ld64(p);
+        copyBytes(out, &v, 8);
+    }
+    }
+}
+
+// A text item (the Ref gives its length output's width): its length into
+// *length, its bytes into data when data is non-null.  Raw bytes (no width):
+// n bytes into data.  The text's length or the raw bytes' data is required.
+inline int storeBytes(const Item& it, Ref r, void* length, void* data, size_t n) {
+    const unsigned width = refWidth(r);
+    if (width) n = it.length;
+    if (data && n && !fits(it, n)) return kErrMalformed;
+    if (width == 1) *static_cast<uint8_t*>(length) = static_cast<uint8_t>(it.length);
+    else if (width == 2) copyBytes(length, &it.length, 2);
+    if (data && n) copyBytes(data, it.value, n);
+    return 0;
+}
+inline bool requiredBytes(Ref r, const void* length, const void* data) { return refWidth(r) ? length : data; }
+
+}  // namespace
+
+int getValue(const uint8_t* msg, int len, void* out, Ref r) {
+    if (!msg || !out) return kErrArg;
     Message m;
-    if (int r = findMessage(h, msg, len, id, &m)) return r;
-    if (int r = storeResult(m, result)) return r;
+    if (int e = locate(msg, len, r, &m)) return e;
     Item it;
-    if (int r = findTlv(m, 0x01, &it)) return r == kErrNoTlv ? kErrNoMandatory : r;
-    if (int r = decode(it, f)) return r;
+    if (int e = walkItems(m.area, m.areaLen, m.end, refType(r), &it)) return e;
+    if (!fits(it, refWidth(r))) return kErrMalformed;
+    storeValue(out, it.value, refWidth(r));
+    return (r & kRefIndication) ? m.areaLen : it.length;
+}
+
+int respValue(const uint8_t* msg, int len, QmiResult* result, void* out, Ref r) {
+    if (!msg || !result || !out) return kErrArg;
+    Message m;
+    if (int e = locate(msg, len, r, &m)) return e;
+    Item it;
+    if (int e = locateMandatory(m, result, &it)) return e;
+    if (!fits(it, refWidth(r))) return kErrMalformed;
+    storeValue(out, it.value, refWidth(r));
     return m.areaLen;
 }
 
-int respResult(Header h, const uint8_t* msg, int len, QmiResult* result, uint16_t id) {
+int getBytes(const uint8_t* msg, int len, Ref r, void* length, void* data, size_t n) {
+    if (!msg || !requiredBytes(r, length, data)) return kErrArg;
+    Message m;
+    if (int e = locate(msg, len, r, &m)) return e;
+    Item it;
+    if (int e = walkItems(m.area, m.areaLen, m.end, refType(r), &it)) return e;
+    if (int e = storeBytes(it, r, length, data, n)) return e;
+    return (r & kRefIndication) ? m.areaLen : it.length;
+}
+
+int respBytes(const uint8_t* msg, int len, QmiResult* result, Ref r, void* length, void* data, size_t n) {
+    if (!msg || !result || !requiredBytes(r, length, data)) return kErrArg;
+    Message m;
+    if (int e = locate(msg, len, r, &m)) return e;
+    Item it;
+    if (int e = locateMandatory(m, result, &it)) return e;
+    if (int e = storeBytes(it, r, length, data, n)) return e;
+    return m.areaLen;
+}
+
+int respItem(const uint8_t* msg, int len, QmiResult* result, Ref r, const DecoderRef& f) {
+    if (!msg || !result || (r & kRefNoOutputs)) return kErrArg;
+    Message m;
+    if (int e = locate(msg, len, r, &m)) return e;
+    Item it;
+    if (int e = locateMandatory(m, result, &it)) return e;
+    if (int e = decode(it, f)) return e;
+    return m.areaLen;
+}
+
+int respResult(const uint8_t* msg, int len, QmiResult* result, Ref r) {
     if (!msg || !result) return kErrArg;
     Message m;
-    if (int r = findMessage(h, msg, len, id, &m)) return r;
-    if (int r = storeResult(m, result)) return r;
+    if (int e = locate(msg, len, r, &m)) return e;
+    if (int e = copyResult(m, result)) return e;
     return m.areaLen;
 }
 
-int getItem(Header h, const uint8_t* msg, int len, uint16_t id, uint8_t type, bool outsOk, DecoderRef f) {
-    if (!msg || !outsOk) return kErrArg;
+int getItem(const uint8_t* msg, int len, Ref r, const DecoderRef& f) {
+    if (!msg || (r & kRefNoOutputs)) return kErrArg;
     Message m;
-    if (int r = findMessage(h, msg, len, id, &m)) return r;
+    if (int e = locate(msg, len, r, &m)) return e;
     Item it;
-    if (int r = findTlv(m, type, &it)) return r;
-    if (int r = decode(it, f)) return r;
-    return it.length;
+    if (int e = walkItems(m.area, m.areaLen, m.end, refType(r), &it)) return e;
+    if (int e = decode(it, f)) return e;
+    return (r & kRefIndication) ? m.areaLen : it.length;
 }
 
-int indItem(Header h, const uint8_t* msg, int len, uint16_t id, bool outsOk, DecoderRef f) {
-    if (!msg || !outsOk) return kErrArg;
-    Message m;
-    if (int r = findMessage(h, msg, len, id, &m)) return r;
-    Item it;
-    if (int r = findTlv(m, 0x01, &it)) return r;
-    if (int r = decode(it, f)) return r;
-    return m.areaLen;
-}
-
-int indId(Header h, const uint8_t* msg, int len, uint16_t id) {
+int indId(const uint8_t* msg, int len, Ref r) {
     if (!msg) return kErrArg;
     Message m;
-    if (int r = findMessage(h, msg, len, id, &m)) return r;
+    if (int e = locate(msg, len, r, &m)) return e;
     return m.areaLen;
 }
 
@@ -135,6 +243,55 @@ void writeHeader(Header h, uint8_t* buf, uint16_t id, uint16_t areaLen) {
         st16(buf + 2, id);
         st16(buf + 4, areaLen);
     }
+}
+
+namespace {
+// The low n bytes (1, 2 or 4) of v in wire order.
+inline void storeLe(uint8_t* p, uint32_t v, unsigned n) {
+    p[0] = static_cast<uint8_t>(v);
+    if (n >= 2) p[1] = static_cast<uint8_t>(v >> 8);
+    if (n == 4) st16(p + 2, static_cast<uint16_t>(v >> 16));
+}
+}  // namespace
+
+int request(uint8_t* buf, int bufsize, Ref r) {
+    const Header h = refHeader(r);
+    if (!buf || bufsize < headerSize(h)) return kErrArg;
+    writeHeader(h, buf, refId(r), 0);
+    return headerSize(h);
+}
+
+int requestValue(uint8_t* buf, int bufsize, uint32_t v, Ref r) {
+    const Header h = refHeader(r);
+    const unsigned n = refWidth(r);
+    const int total = headerSize(h) + 3 + static_cast<int>(n);
+    if (!buf || bufsize < total) return kErrArg;
+    writeHeader(h, buf, refId(r), static_cast<uint16_t>(n + 3));
+    uint8_t* p = buf + headerSize(h);
+    p[0] = 0x01;
+    st16(p + 1, static_cast<uint16_t>(n));
+    storeLe(p + 3, v, n);
+    return total;
+}
+
+int addValue(uint8_t* buf, int bufsize, uint32_t v, Ref r) {
+    if (!buf) return kErrArg;
+    const unsigned n = refWidth(r);
+    int total = 0;  // always set by reserveItem
+    uint8_t* p = reserveItem(refHeader(r), buf, bufsize, refType(r), n, &total);
+    if (!p) return total;
+    storeLe(p, v, n);
+    return total;
+}
+
+int addBytes(uint8_t* buf, int bufsize, Ref r, size_t n, const void* p) {
+    if (!buf) return kErrArg;
+    if (n != 0 && !p) return kErrArg;
+    int total = 0;  // always set by reserveItem
+    uint8_t* value = reserveItem(refHeader(r), buf, bufsize, refType(r), n, &total);
+    if (!value) return total;
+    if (n) copyBytes(value, p, n);
+    return total;
 }
 
 uint8_t* reserveItem(Header h, uint8_t* buf, int bufsize, uint8_t type, size_t n, int* total) {
