@@ -102,6 +102,16 @@ inline int locate(const uint8_t* msg, int len, Ref r, Message* m) {
     return findMessage(kControl, msg, len, refId(r), m);
 }
 
+// The message the Ref names, found at once when it is the first of a
+// service buffer (the usual case), else by the walk.
+__attribute__((always_inline)) inline int findMessageOf(const uint8_t* msg, int len, Ref r, Message* m) {
+    if (!(r & kRefControl) && len > 7 && ld16(msg + 3) == refId(r)) {
+        *m = Message{msg + 7, ld16(msg + 5), msg + len};
+        return 0;
+    }
+    return locate(msg, len, r, m);
+}
+
 // The result item, then the mandatory item 0x01 (-4 when it is missing).
 inline int locateMandatory(const Message& m, QmiResult* result, Item* it) {
     if (int r = copyResult(m, result)) return r;
@@ -156,6 +166,26 @@ inline bool requiredBytes(Ref r, const void* length, const void* data) { return 
 
 int getValue(const uint8_t* msg, int len, void* out, Ref r) {
     if (!msg || !out) return kErrArg;
+    // The usual case in one pass over offsets (a getter is called once per
+    // item, so this is the hot path): the first message of a service buffer
+    // of at least 10 bytes, a TLV area of at least one head.  The same checks
+    // as the general path below, in the same order.
+    if (!(r & kRefControl) && len >= 10 && ld16(msg + 3) == refId(r) && ld16(msg + 5) >= 3) {
+        const uint8_t* area = msg + 7;
+        const unsigned long last = ld16(msg + 5) - 3ul;
+        const unsigned long readable = static_cast<unsigned long>(len) - 10;
+        const unsigned long limit = last < readable ? last : readable;
+        const uint8_t type = refType(r);
+        unsigned long off = 0;
+        while (area[off] != type) {
+            off += ld16(area + off + 1) + 3ul;
+            if (off > limit) return off <= last ? kErrMalformed : kErrNoTlv;
+        }
+        const unsigned width = refWidth(r);
+        if (readable - off < width) return kErrMalformed;
+        storeValue(out, area + off + 3, width);
+        return (r & kRefIndication) ? ld16(msg + 5) : ld16(area + off + 1);
+    }
     Message m;
     if (int e = locate(msg, len, r, &m)) return e;
     Item it;
@@ -168,7 +198,7 @@ int getValue(const uint8_t* msg, int len, void* out, Ref r) {
 int respValue(const uint8_t* msg, int len, QmiResult* result, void* out, Ref r) {
     if (!msg || !result || !out) return kErrArg;
     Message m;
-    if (int e = locate(msg, len, r, &m)) return e;
+    if (int e = findMessageOf(msg, len, r, &m)) return e;
     Item it;
     if (int e = locateMandatory(m, result, &it)) return e;
     if (!fits(it, refWidth(r))) return kErrMalformed;
@@ -179,7 +209,7 @@ int respValue(const uint8_t* msg, int len, QmiResult* result, void* out, Ref r) 
 int getBytes(const uint8_t* msg, int len, Ref r, void* length, void* data, size_t n) {
     if (!msg || !requiredBytes(r, length, data)) return kErrArg;
     Message m;
-    if (int e = locate(msg, len, r, &m)) return e;
+    if (int e = findMessageOf(msg, len, r, &m)) return e;
     Item it;
     if (int e = walkItems(m.area, m.areaLen, m.end, refType(r), &it)) return e;
     if (int e = storeBytes(it, r, length, data, n)) return e;
@@ -189,7 +219,7 @@ int getBytes(const uint8_t* msg, int len, Ref r, void* length, void* data, size_
 int respBytes(const uint8_t* msg, int len, QmiResult* result, Ref r, void* length, void* data, size_t n) {
     if (!msg || !result || !requiredBytes(r, length, data)) return kErrArg;
     Message m;
-    if (int e = locate(msg, len, r, &m)) return e;
+    if (int e = findMessageOf(msg, len, r, &m)) return e;
     Item it;
     if (int e = locateMandatory(m, result, &it)) return e;
     if (int e = storeBytes(it, r, length, data, n)) return e;
@@ -199,7 +229,7 @@ int respBytes(const uint8_t* msg, int len, QmiResult* result, Ref r, void* lengt
 int respItem(const uint8_t* msg, int len, QmiResult* result, Ref r, const DecoderRef& f) {
     if (!msg || !result || (r & kRefNoOutputs)) return kErrArg;
     Message m;
-    if (int e = locate(msg, len, r, &m)) return e;
+    if (int e = findMessageOf(msg, len, r, &m)) return e;
     Item it;
     if (int e = locateMandatory(m, result, &it)) return e;
     if (int e = decode(it, f)) return e;
@@ -209,7 +239,7 @@ int respItem(const uint8_t* msg, int len, QmiResult* result, Ref r, const Decode
 int respResult(const uint8_t* msg, int len, QmiResult* result, Ref r) {
     if (!msg || !result) return kErrArg;
     Message m;
-    if (int e = locate(msg, len, r, &m)) return e;
+    if (int e = findMessageOf(msg, len, r, &m)) return e;
     if (int e = copyResult(m, result)) return e;
     return m.areaLen;
 }
@@ -217,7 +247,7 @@ int respResult(const uint8_t* msg, int len, QmiResult* result, Ref r) {
 int getItem(const uint8_t* msg, int len, Ref r, const DecoderRef& f) {
     if (!msg || (r & kRefNoOutputs)) return kErrArg;
     Message m;
-    if (int e = locate(msg, len, r, &m)) return e;
+    if (int e = findMessageOf(msg, len, r, &m)) return e;
     Item it;
     if (int e = walkItems(m.area, m.areaLen, m.end, refType(r), &it)) return e;
     if (int e = decode(it, f)) return e;
@@ -227,14 +257,16 @@ int getItem(const uint8_t* msg, int len, Ref r, const DecoderRef& f) {
 int indId(const uint8_t* msg, int len, Ref r) {
     if (!msg) return kErrArg;
     Message m;
-    if (int e = locate(msg, len, r, &m)) return e;
+    if (int e = findMessageOf(msg, len, r, &m)) return e;
     return m.areaLen;
 }
 
-void writeHeader(Header h, uint8_t* buf, uint16_t id, uint16_t areaLen) {
+namespace {
+// The request header with a fresh transaction id.
+__attribute__((always_inline)) inline void putHeader(bool control, uint8_t* buf, uint16_t id, uint16_t areaLen) {
     buf[0] = 0;  // control flags
     uint16_t tx = nextTransactionId();
-    if (h == kService) {
+    if (!control) {
         st16(buf + 1, tx);
         st16(buf + 3, id);
         st16(buf + 5, areaLen);
@@ -245,7 +277,37 @@ void writeHeader(Header h, uint8_t* buf, uint16_t id, uint16_t areaLen) {
     }
 }
 
-namespace {
+// Room for one item of n value bytes behind the header's TLV area (see
+// reserveItem): the value's place, or null with the code in *total.
+__attribute__((always_inline)) inline uint8_t* makeRoom(bool control, uint8_t* buf, int bufsize, uint8_t type,
+                                                        size_t n, int* total) {
+    if (n > kMaxItemValue) {
+        *total = kErrMalformed;
+        return nullptr;
+    }
+    const int hs = control ? 6 : 7;
+    // A buffer smaller than the header cannot take any item; the header is
+    // not read from it.
+    if (bufsize < hs) {
+        *total = kErrNoRoom;
+        return nullptr;
+    }
+    uint8_t* lengthField = buf + hs - 2;
+    uint16_t areaLen = ld16(lengthField);
+    uint16_t itemLen = static_cast<uint16_t>(n + 3);
+    int newTotal = areaLen + itemLen + hs;
+    if (bufsize < newTotal) {
+        *total = kErrNoRoom;
+        return nullptr;
+    }
+    st16(lengthField, static_cast<uint16_t>(areaLen + itemLen));
+    uint8_t* item = buf + hs + areaLen;
+    item[0] = type;
+    st16(item + 1, static_cast<uint16_t>(n));
+    *total = newTotal;
+    return item + 3;
+}
+
 // The low n bytes (1, 2 or 4) of v in wire order.
 inline void storeLe(uint8_t* p, uint32_t v, unsigned n) {
     p[0] = static_cast<uint8_t>(v);
@@ -254,71 +316,74 @@ inline void storeLe(uint8_t* p, uint32_t v, unsigned n) {
 }
 }  // namespace
 
-int request(uint8_t* buf, int bufsize, Ref r) {
-    const Header h = refHeader(r);
-    if (!buf || bufsize < headerSize(h)) return kErrArg;
-    writeHeader(h, buf, refId(r), 0);
-    return headerSize(h);
+void writeHeader(Header h, uint8_t* buf, uint16_t id, uint16_t areaLen) { putHeader(h == kControl, buf, id, areaLen); }
+
+namespace {
+// The builders' bodies, compiled once per header so that the header size is a constant.
+template <bool C>
+int requestOf(uint8_t* buf, int bufsize, uint16_t id) {
+    const int hs = C ? 6 : 7;
+    if (!buf || bufsize < hs) return kErrArg;
+    putHeader(C, buf, id, 0);
+    return hs;
 }
 
-int requestValue(uint8_t* buf, int bufsize, uint32_t v, Ref r) {
-    const Header h = refHeader(r);
+template <bool C>
+int requestValueOf(uint8_t* buf, int bufsize, uint32_t v, Ref r) {
+    const int hs = C ? 6 : 7;
     const unsigned n = refWidth(r);
-    const int total = headerSize(h) + 3 + static_cast<int>(n);
+    const int total = hs + 3 + static_cast<int>(n);
     if (!buf || bufsize < total) return kErrArg;
-    writeHeader(h, buf, refId(r), static_cast<uint16_t>(n + 3));
-    uint8_t* p = buf + headerSize(h);
+    putHeader(C, buf, refId(r), static_cast<uint16_t>(n + 3));
+    uint8_t* p = buf + hs;
     p[0] = 0x01;
     st16(p + 1, static_cast<uint16_t>(n));
     storeLe(p + 3, v, n);
     return total;
 }
 
-int addValue(uint8_t* buf, int bufsize, uint32_t v, Ref r) {
+template <bool C>
+int addValueOf(uint8_t* buf, int bufsize, uint32_t v, Ref r) {
     if (!buf) return kErrArg;
     const unsigned n = refWidth(r);
-    int total = 0;  // always set by reserveItem
-    uint8_t* p = reserveItem(refHeader(r), buf, bufsize, refType(r), n, &total);
+    int total = 0;  // always set by makeRoom
+    uint8_t* p = makeRoom(C, buf, bufsize, refType(r), n, &total);
     if (!p) return total;
     storeLe(p, v, n);
     return total;
 }
 
-int addBytes(uint8_t* buf, int bufsize, Ref r, size_t n, const void* p) {
+template <bool C>
+int addBytesOf(uint8_t* buf, int bufsize, uint8_t type, size_t n, const void* p) {
     if (!buf) return kErrArg;
     if (n != 0 && !p) return kErrArg;
-    int total = 0;  // always set by reserveItem
-    uint8_t* value = reserveItem(refHeader(r), buf, bufsize, refType(r), n, &total);
+    int total = 0;  // always set by makeRoom
+    uint8_t* value = makeRoom(C, buf, bufsize, type, n, &total);
     if (!value) return total;
     if (n) copyBytes(value, p, n);
     return total;
 }
+}  // namespace
+
+int request(uint8_t* buf, int bufsize, Ref r) {
+    return (r & kRefControl) ? requestOf<true>(buf, bufsize, refId(r)) : requestOf<false>(buf, bufsize, refId(r));
+}
+
+int requestValue(uint8_t* buf, int bufsize, uint32_t v, Ref r) {
+    return (r & kRefControl) ? requestValueOf<true>(buf, bufsize, v, r) : requestValueOf<false>(buf, bufsize, v, r);
+}
+
+int addValue(uint8_t* buf, int bufsize, uint32_t v, Ref r) {
+    return (r & kRefControl) ? addValueOf<true>(buf, bufsize, v, r) : addValueOf<false>(buf, bufsize, v, r);
+}
+
+int addBytes(uint8_t* buf, int bufsize, Ref r, size_t n, const void* p) {
+    return (r & kRefControl) ? addBytesOf<true>(buf, bufsize, refType(r), n, p)
+                             : addBytesOf<false>(buf, bufsize, refType(r), n, p);
+}
 
 uint8_t* reserveItem(Header h, uint8_t* buf, int bufsize, uint8_t type, size_t n, int* total) {
-    if (n > kMaxItemValue) {
-        *total = kErrMalformed;
-        return nullptr;
-    }
-    const int hs = headerSize(h);
-    // A buffer smaller than the header cannot take any item; the header is
-    // not read from it.
-    if (bufsize < hs) {
-        *total = kErrNoRoom;
-        return nullptr;
-    }
-    uint16_t areaLen = ld16(buf + lengthOffset(h));
-    uint16_t itemLen = static_cast<uint16_t>(n + 3);
-    int newTotal = areaLen + itemLen + hs;
-    if (bufsize < newTotal) {
-        *total = kErrNoRoom;
-        return nullptr;
-    }
-    st16(buf + lengthOffset(h), static_cast<uint16_t>(areaLen + itemLen));
-    uint8_t* item = buf + hs + areaLen;
-    item[0] = type;
-    st16(item + 1, static_cast<uint16_t>(n));
-    *total = newTotal;
-    return item + 3;
+    return makeRoom(h == kControl, buf, bufsize, type, n, total);
 }
 
 }  // namespace zq

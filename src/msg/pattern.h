@@ -128,10 +128,9 @@ struct Raw {
 };
 
 // The helpers.  Each checks everything it reads before it writes anything,
-// so none needs a dry pass.  The required output of a plain-data shape is
-// its own pointer (the scalar's output, the text's length, the record): the
-// helper refuses a null one with -1, which is what all(...) of that pointer
-// says, so the shapes do not pass outsOk on.  getValue and getBytes serve optional items
+// so none needs a dry pass.  A helper refuses a null output of its shape
+// (the scalar's output, the text's length, the record) with -1; the
+// skeletons below also refuse a false outsOk with -1 before they call it.  getValue and getBytes serve optional items
 // (kRefIndication: the mandatory item of an indication), respValue and
 // respBytes the mandatory item 0x01 of a response.
 int getValue(const uint8_t* msg, int len, void* out, Ref r);
@@ -281,15 +280,18 @@ int resp(const uint8_t* msg, int len, QmiResult* result, uint16_t id, bool outsO
     return respItem(msg, len, result, outputs(ref(H, id), outsOk), DecoderRef(f));
 }
 template <Header H = kService>
-int resp(const uint8_t* msg, int len, QmiResult* result, uint16_t id, bool /*outsOk*/, Scalar s) {
+int resp(const uint8_t* msg, int len, QmiResult* result, uint16_t id, bool outsOk, Scalar s) {
+    if (!outsOk) return kErrArg;
     return respValue(msg, len, result, s.out, ref(H, id, 0x01, s.width));
 }
 template <Header H = kService>
-int resp(const uint8_t* msg, int len, QmiResult* result, uint16_t id, bool /*outsOk*/, Text t) {
+int resp(const uint8_t* msg, int len, QmiResult* result, uint16_t id, bool outsOk, Text t) {
+    if (!outsOk) return kErrArg;
     return respBytes(msg, len, result, ref(H, id, 0x01, t.width), t.length, t.data, 0);
 }
 template <Header H = kService>
-int resp(const uint8_t* msg, int len, QmiResult* result, uint16_t id, bool /*outsOk*/, Raw b) {
+int resp(const uint8_t* msg, int len, QmiResult* result, uint16_t id, bool outsOk, Raw b) {
+    if (!outsOk) return kErrArg;
     return respBytes(msg, len, result, ref(H, id, 0x01), nullptr, b.dst, b.n);
 }
 
@@ -305,15 +307,18 @@ int get(const uint8_t* msg, int len, uint16_t id, uint8_t type, bool outsOk, F&&
     return getItem(msg, len, outputs(ref(H, id, type), outsOk), DecoderRef(f));
 }
 template <Header H = kService>
-int get(const uint8_t* msg, int len, uint16_t id, uint8_t type, bool /*outsOk*/, Scalar s) {
+int get(const uint8_t* msg, int len, uint16_t id, uint8_t type, bool outsOk, Scalar s) {
+    if (!outsOk) return kErrArg;
     return getValue(msg, len, s.out, ref(H, id, type, s.width));
 }
 template <Header H = kService>
-int get(const uint8_t* msg, int len, uint16_t id, uint8_t type, bool /*outsOk*/, Text t) {
+int get(const uint8_t* msg, int len, uint16_t id, uint8_t type, bool outsOk, Text t) {
+    if (!outsOk) return kErrArg;
     return getBytes(msg, len, ref(H, id, type, t.width), t.length, t.data, 0);
 }
 template <Header H = kService>
-int get(const uint8_t* msg, int len, uint16_t id, uint8_t type, bool /*outsOk*/, Raw b) {
+int get(const uint8_t* msg, int len, uint16_t id, uint8_t type, bool outsOk, Raw b) {
+    if (!outsOk) return kErrArg;
     return getBytes(msg, len, ref(H, id, type), nullptr, b.dst, b.n);
 }
 
@@ -323,7 +328,8 @@ int ind(const uint8_t* msg, int len, uint16_t id, bool outsOk, F&& f) {
     return getItem(msg, len, outputs(ref(H, id, 0x01) | kRefIndication, outsOk), DecoderRef(f));
 }
 template <Header H = kService>
-int ind(const uint8_t* msg, int len, uint16_t id, bool /*outsOk*/, Scalar s) {
+int ind(const uint8_t* msg, int len, uint16_t id, bool outsOk, Scalar s) {
+    if (!outsOk) return kErrArg;
     return getValue(msg, len, s.out, ref(H, id, 0x01, s.width) | kRefIndication);
 }
 

@@ -5,8 +5,16 @@
 
 namespace zq {
 
+// Not protected: callers that build requests on several threads serialise
+// the builders themselves.
+extern uint16_t transactionCounter;
+
 // Advances the counter (16-bit wrap, 0 skipped) and returns the new value.
-uint16_t nextTransactionId();
-uint16_t currentTransactionId();
+inline uint16_t nextTransactionId() {
+    ++transactionCounter;
+    if (transactionCounter == 0) transactionCounter = 1;
+    return transactionCounter;
+}
+inline uint16_t currentTransactionId() { return transactionCounter; }
 
 }  // namespace zq

@@ -54,11 +54,11 @@ int profileGet(const uint8_t* msg, int len, uint16_t messageId, ProfileIds ids, 
     if (!msg || !outsOk || !profileMessage(messageId, ids)) return kErrArg;
     return get(msg, len, messageId, type, true, f);
 }
-// A plain-data shape checks its buffer and output itself.
+// A plain-data shape: its helper checks the buffer.
 template <class Shape>
 int profileGet(const uint8_t* msg, int len, uint16_t messageId, ProfileIds ids, uint8_t type, bool outsOk, Shape s) {
-    if (!profileMessage(messageId, ids)) return kErrArg;
-    return get(msg, len, messageId, type, outsOk, s);
+    if (!outsOk || !profileMessage(messageId, ids)) return kErrArg;
+    return get(msg, len, messageId, type, true, s);
 }
 
 // A list of names: count u8, then per name a u16 length and its bytes, into
