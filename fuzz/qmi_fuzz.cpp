@@ -224,8 +224,8 @@ int zovQMIMSMGetTLV(const In& in, Out& o) {
     return p ? 0 : -1;
 }
 int zovQMIMSMGetTLVList(const In& in, Out& o) {
-    // Every item takes at least its 3-byte head.
-    return ::zovQMIMSMGetTLVList(in.msg, in.len, o.arr<QmiTlvRecord>(kFuzzMaxMessage / 3 + 1));
+    // Every item takes at least its 3-byte head of the buffer.
+    return ::zovQMIMSMGetTLVList(in.msg, in.len, o.arr<QmiTlvRecord>(o.upTo(kFuzzMaxMessage) / 3 + 1));
 }
 int fnResponseParseFlowSpecification(const In& in, Out& o) {
     return ::fnResponseParseFlowSpecification(in.msg, in.len, o.rec<FlowSpecification>());

@@ -101,7 +101,8 @@ using Ref = uint32_t;
 enum : Ref { kRefControl = 1u << 28, kRefIndication = 1u << 29, kRefNoOutputs = 1u << 30 };
 
 constexpr Ref ref(Header h, uint16_t id, uint8_t type = 0, size_t width = 0) {
-    return id | static_cast<Ref>(type) << 16 | static_cast<Ref>(width) << 24 | (h == kControl ? Ref{kRefControl} : Ref{0});
+    return id | static_cast<Ref>(type) << 16 | static_cast<Ref>(width) << 24 |
+           (h == kControl ? Ref{kRefControl} : Ref{0});
 }
 constexpr Header refHeader(Ref r) { return (r & kRefControl) ? kControl : kService; }
 constexpr uint16_t refId(Ref r) { return static_cast<uint16_t>(r); }
@@ -130,9 +131,10 @@ struct Raw {
 // The helpers.  Each checks everything it reads before it writes anything,
 // so none needs a dry pass.  A helper refuses a null output of its shape
 // (the scalar's output, the text's length, the record) with -1; the
-// skeletons below also refuse a false outsOk with -1 before they call it.  getValue and getBytes serve optional items
-// (kRefIndication: the mandatory item of an indication), respValue and
-// respBytes the mandatory item 0x01 of a response.
+// skeletons below also refuse a false outsOk with -1 before they call it.
+// getValue and getBytes serve optional items (kRefIndication: the mandatory
+// item of an indication), respValue and respBytes the mandatory item 0x01
+// of a response.
 int getValue(const uint8_t* msg, int len, void* out, Ref r);
 int respValue(const uint8_t* msg, int len, QmiResult* result, void* out, Ref r);
 // Text (a width: its length output's) or raw bytes (no width: n bytes into data).
