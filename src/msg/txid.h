@@ -6,8 +6,9 @@
 namespace zq {
 
 // Not protected: callers that build requests on several threads serialise
-// the builders themselves.
-extern uint16_t transactionCounter;
+// the builders themselves.  Defined (zero-initialised) in framing.cpp; inline
+// here so that a request builder advances it without a call.
+extern uint16_t transactionCounter;  // NOLINT(bugprone-dynamic-static-initializers): a declaration
 
 // Advances the counter (16-bit wrap, 0 skipped) and returns the new value.
 inline uint16_t nextTransactionId() {
