@@ -39,7 +39,7 @@ Bytes ctl(uint16_t id, std::initializer_list<Bytes> items) {
 }
 
 // Received messages.
-Bytes gServing, gRuntime, gPbm, gQosError, gRawRead, gCtl, gDms, gPds, gWdsStart;
+Bytes gServing, gRuntime, gRuntimeShort, gPbm, gQosError, gRawRead, gCtl, gDms, gPds, gWdsStart;
 
 // Output space shared by the parsers.
 uint8_t gBuf[2048];
@@ -119,6 +119,45 @@ int wdsRuntimeSettingsParse() {
     check(zovQMIWDSGetRuntimeSettingsRespGetIMCNFlag(m, n, &b1));
     check(zovQMIWDSGetRuntimeSettingsRespGetTechnologyName(m, n, &w));
     return n;
+}
+
+// The two fixed figures of the footprint work: nine separate reads of a
+// short GetRuntimeSettings response (each call finds its message and item
+// again), and a connect request with APN, user name and password built and
+// its response parsed.
+int wdsRuntimeNineItems() {
+    const uint8_t* m = gRuntimeShort.data();
+    const int n = len(gRuntimeShort);
+    const uint16_t id = 0x002D;
+    uint8_t family;
+    uint16_t w;
+    uint32_t v;
+    check(zovQMIWDSGetRuntimeSettingsResp(m, n, &gResult));
+    check(zovQMIWDSProfileRespGetAPNName(m, n, id, &w, gScratch));
+    check(zovQMIWDSProfileRespGetPrimaryDNSIPv4AddressPreference(m, n, id, &v));
+    check(zovQMIWDSProfileRespGetSecondaryDNSIPv4AddressPreference(m, n, id, &v));
+    check(zovQMIWDSProfileRespGetIPv4AddressPreference(m, n, id, &v));
+    check(zovQMIWDSGetRuntimeSettingsRespGetIPv4GatewayAddress(m, n, &v));
+    check(zovQMIWDSGetRuntimeSettingsRespGetIPv4SubnetMask(m, n, &v));
+    check(zovQMIWDSGetRuntimeSettingsRespGetMTU(m, n, &v));
+    check(zovQMIWDSGetRuntimeSettingsRespGetIPfamily(m, n, &family));
+    return n;
+}
+
+int wdsStartNetworkConnect() {
+    static const char apn[] = "internet.example.net";
+    static const char user[] = "subscriber@example.net";
+    static const char pass[] = "correct horse battery";
+    uint32_t handle;
+    zovQMIWDSStartNetworkInterfaceReq(gBuf, sizeof gBuf);
+    zovQMIWDSStartNetworkInterfaceReqAddContextAPNName(gBuf, sizeof gBuf, sizeof apn - 1,
+                                                       reinterpret_cast<const uint8_t*>(apn));
+    zovQMIWDSStartNetworkInterfaceReqAddUsername(gBuf, sizeof gBuf, sizeof user - 1,
+                                                 reinterpret_cast<const uint8_t*>(user));
+    int n = check(zovQMIWDSStartNetworkInterfaceReqAddPassword(gBuf, sizeof gBuf, sizeof pass - 1,
+                                                               reinterpret_cast<const uint8_t*>(pass)));
+    check(zovQMIWDSStartNetworkInterfaceResp(gWdsStart.data(), len(gWdsStart), &gResult, &handle));
+    return n + len(gWdsStart);
 }
 
 // ------------------------------------------------------------------- NAS --
@@ -297,6 +336,12 @@ void setupScenarios() {
         tlv(0x25, cat({ipv6, {64}})), tlv(0x26, cat({ipv6, {64}})), tlv(0x27, ipv6), tlv(0x28, ipv6),
         tlv(0x29, le32(1500)), tlv(0x2A, cat({{0x02}, le16(11), str("example.net"), le16(11), str("example.org")})),
         tlv(0x2B, {0x04}), tlv(0x2C, {0x00}), tlv(0x2D, le16(0x8004))});
+    // WDS: a short GetRuntimeSettings response, items in type order: APN,
+    // both IPv4 DNS addresses, IPv4 address, gateway, subnet mask, MTU, IP family.
+    gRuntimeShort = svc(0x002D, {
+        result(), tlv(0x14, str("internet")), tlv(0x15, le32(0x08080808)), tlv(0x16, le32(0x08080404)),
+        tlv(0x1E, le32(0x0A000002)), tlv(0x20, le32(0x0A000001)), tlv(0x21, le32(0xFFFFFF00)),
+        tlv(0x29, le32(1500)), tlv(0x2B, {0x04})});
     // NAS: GetServingSystem with every optional item.
     gServing = svc(0x0024, {
         result(), tlv(0x01, {0x01, 0x01, 0x01, 0x01, 0x02, 0x08, 0x09}), tlv(0x10, {0x01}),
@@ -382,6 +427,8 @@ const Scenario kScenarios[kScenarioCount] = {
     {"DMS/GetDeviceMfr/parse", dmsMfrParse},
     {"PDS/SetGPSServiceState/build", pdsServiceStateBuild},
     {"PDS/GetGPSServiceState/parse", pdsServiceStateParse},
+    {"WDS/GetRuntimeSettings/read_9_items", wdsRuntimeNineItems},
+    {"WDS/StartNetworkInterface/connect_build+parse", wdsStartNetworkConnect},
 };
 static_assert(sizeof kScenarios / sizeof kScenarios[0] == kScenarioCount, "kScenarioCount");
 

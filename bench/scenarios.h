@@ -18,7 +18,7 @@ struct Scenario {
 void setupScenarios();
 
 // The number of scenarios (the workload instantiates one function per scenario).
-constexpr size_t kScenarioCount = 17;
+constexpr size_t kScenarioCount = 19;
 extern const Scenario kScenarios[kScenarioCount];
 
 }  // namespace zb

@@ -10,7 +10,10 @@ and the list of wrapped names for the linker (fuzz/exports.cmake).
 Output sizes follow the wire: a count of width N bounds the arrays after it
 (255 entries for u8 counts, 65535 for u16 counts, 32-bit counts capped at what
 a 4090-byte message can hold); a u8/u16 length bounds the data buffer after it
-(255 / 65535 bytes).  Records are allocated at their declared size and their
+(255 / 65535 bytes).  A 16-bit count or length is further bounded by the
+message itself: every entry or byte it counts is read from at least one byte
+of the message, so no parser can fill more than the message's length
+(o.upTo(65535) is the smaller of the two).  Records are allocated at their declared size and their
 pointer fields are set by the harness (see prepare() in qmi_fuzz.cpp).  The
 few byte outputs whose size is fixed by their message are listed in FIXED.
 
@@ -25,7 +28,7 @@ HEADER = os.path.join(ROOT, "include", "zovqmi.h")
 
 # Largest number of 32-bit-counted entries one 4090-byte message can carry.
 CAP32 = 1024
-COUNT_MAX = {"uint8_t": 255, "uint16_t": 65535, "uint32_t": CAP32}
+COUNT_MAX = {"uint8_t": "255", "uint16_t": "o.upTo(65535)", "uint32_t": str(CAP32)}
 
 # Byte outputs of a fixed size (export name suffix or exact name -> parameter -> bytes).
 FIXED = {
@@ -103,18 +106,18 @@ def out_expr(name, params, i):
     # A data buffer bounded by the length output just before it.
     if i > 0 and names[i - 1] in ("length", "labelLength") and params[i - 1][1] and typ in ("uint8_t", "void"):
         n = COUNT_MAX[params[i - 1][0]]
-        return "o.bytes(%d)" % n
+        return "o.bytes(%s)" % n
     # Arrays after a count output.
     if "count" in names and i > names.index("count") and params[names.index("count")][1]:
         n = COUNT_MAX[params[names.index("count")][0]]
         stride = STRIDE.get(name, {}).get(pname)
         if stride:
-            return "o.bytes(%d * %d)" % (n, stride)
+            return "o.bytes(%s * %d)" % (n, stride)
         if typ in SPILL:
-            return "o.bytes<%s>(%d * sizeof(%s) + %d)" % (typ, n, typ, SPILL[typ])
-        return "o.arr<%s>(%d)" % (typ, n)
+            return "o.bytes<%s>(%s * sizeof(%s) + %d)" % (typ, n, typ, SPILL[typ])
+        return "o.arr<%s>(%s)" % (typ, n)
     if typ == "WMSRawMessage":
-        return "o.bytes<WMSRawMessage>(sizeof(WMSRawMessage) + 65535)"
+        return "o.bytes<WMSRawMessage>(sizeof(WMSRawMessage) + o.upTo(65535))"
     if typ in SCALARS or typ == "QmiResult":
         return "o.val<%s>()" % typ
     if typ in ("uint8_t", "void"):

@@ -6,7 +6,10 @@
 // Every output is a heap block of its full layout size followed by guard
 // bytes (poisoned under AddressSanitizer) that must still hold their pattern
 // after the call.  Pointer fields inside records point at blocks as large as
-// the widest length the wire can give them.  A parser that reports
+// the widest length the wire can give them.  What a 16-bit count or length
+// can fill is bounded by the message as well (every entry or byte it counts
+// is read from at least one byte of it), so those outputs are sized from the
+// message's length (upTo), the guard bytes still right behind them.  A parser that reports
 // ZOVQMI_ERR_MALFORMED must leave every output except the result record as
 // it was.
 //
@@ -59,7 +62,7 @@ struct In {
 // The outputs of one call: heap blocks with guards, checked and freed at the end.
 class Out {
 public:
-    explicit Out(bool nullOptional) : nullOptional_(nullOptional) {}
+    Out(bool nullOptional, size_t messageLength) : nullOptional_(nullOptional), messageLength_(messageLength) {}
     Out(const Out&) = delete;
     Out& operator=(const Out&) = delete;
     ~Out() {
@@ -93,6 +96,9 @@ public:
     T* bytes(size_t n) {
         return nullOptional_ ? nullptr : reinterpret_cast<T*>(remember(block(n, false)));
     }
+    // The entries or bytes of n that the message can fill: never more than its length.
+    size_t upTo(size_t n) const { return n < messageLength_ ? n : messageLength_; }
+
     // The target of a pointer field inside a record (null when asked for nulls).
     uint8_t* target(size_t n) { return bytes(n); }
 
@@ -151,16 +157,17 @@ private:
         for (size_t i = 0; i < n; ++i) setPtr(recs + i, off, t);
     }
     void prepare(QmiMessageInfo* p, size_t) {
-        // A 16-bit message count; each entry's TLV area is at most 65535 bytes.
-        QmiMessageEntry* entries = arr<QmiMessageEntry>(65535);
+        // A 16-bit message count; each entry's TLV area is at most 65535 bytes
+        // (and each entry takes at least a byte of the buffer).
+        QmiMessageEntry* entries = arr<QmiMessageEntry>(upTo(65535));
         setPtr(p, offsetof(QmiMessageInfo, entries), entries);
     }
-    void prepare(QmiMessageEntry* p, size_t n) { share(p, n, offsetof(QmiMessageEntry, value), 65535); }
+    void prepare(QmiMessageEntry* p, size_t n) { share(p, n, offsetof(QmiMessageEntry, value), upTo(65535)); }
     void prepare(DMSDeviceCapabilities* p, size_t n) { share(p, n, offsetof(DMSDeviceCapabilities, list), 255); }
     void prepare(NASServingSystem* p, size_t n) { share(p, n, offsetof(NASServingSystem, list), 255); }
     void prepare(NASNetworkRecord* p, size_t n) { share(p, n, offsetof(NASNetworkRecord, description), 255); }
     void prepare(WDSProfileListEntry* p, size_t n) { share(p, n, offsetof(WDSProfileListEntry, name), 255); }
-    void prepare(WDSNameListEntry* p, size_t n) { share(p, n, offsetof(WDSNameListEntry, name), 65535); }
+    void prepare(WDSNameListEntry* p, size_t n) { share(p, n, offsetof(WDSNameListEntry, name), upTo(65535)); }
     void prepare(LengthPrefixedEntry* p, size_t n) { share(p, n, offsetof(LengthPrefixedEntry, data), 255); }
     void prepare(NetworkInitiatedPromptVX* p, size_t n) { share(p, n, offsetof(NetworkInitiatedPromptVX, data), 255); }
     void prepare(NetworkInitiatedPromptSUPL* p, size_t n) {
@@ -183,6 +190,7 @@ private:
     void prepare(QoSProfileList* p, size_t n) { share(p, n, offsetof(QoSProfileList, profiles), 255 * sizeof(uint16_t)); }
 
     bool nullOptional_;
+    size_t messageLength_;
     std::vector<Block> blocks_;
 };
 
@@ -216,8 +224,8 @@ int zovQMIMSMGetTLV(const In& in, Out& o) {
     return p ? 0 : -1;
 }
 int zovQMIMSMGetTLVList(const In& in, Out& o) {
-    // Every item takes at least its 3-byte head.
-    return ::zovQMIMSMGetTLVList(in.msg, in.len, o.arr<QmiTlvRecord>(kFuzzMaxMessage / 3 + 1));
+    // Every item takes at least its 3-byte head of the buffer.
+    return ::zovQMIMSMGetTLVList(in.msg, in.len, o.arr<QmiTlvRecord>(o.upTo(kFuzzMaxMessage) / 3 + 1));
 }
 int fnResponseParseFlowSpecification(const In& in, Out& o) {
     return ::fnResponseParseFlowSpecification(in.msg, in.len, o.rec<FlowSpecification>());
@@ -305,7 +313,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (len) std::memcpy(msg, data + kFuzzHead, len);
     In in{msg, static_cast<int>(len), static_cast<uint16_t>(data[5] | data[6] << 8), data[4]};
     {
-        Out o(in.flags & kFuzzNullOptional);
+        Out o(in.flags & kFuzzNullOptional, len);
         int r = e.call(in, o);
         o.check(e.name, r == ZOVQMI_ERR_MALFORMED);
     }

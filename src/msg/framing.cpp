@@ -4,18 +4,7 @@
 #include "msg/txid.h"
 
 namespace zq {
-namespace {
-// Not protected: callers that build requests on several threads serialise
-// the builders themselves.
-uint16_t counter = 0;
-}  // namespace
-
-uint16_t nextTransactionId() {
-    ++counter;
-    if (counter == 0) counter = 1;
-    return counter;
-}
-uint16_t currentTransactionId() { return counter; }
+uint16_t transactionCounter = 0;
 
 namespace {
 // Appends a caller-filled record under header h.

@@ -16,9 +16,18 @@
 // mandatory item (-4 in responses, -3 in indications).  A received message is
 // read only inside [msg, msg + len); a field beyond that gives
 // ZOVQMI_ERR_MALFORMED and no output is written.
+//
+// The commonest shapes (a header-only request, a request or optional item of
+// one scalar or of a byte string, a response with only its result item, a
+// scalar, byte string or record copied out of an item) are described by
+// plain data, a Ref word naming header, message id, item type and width,
+// and handled by a few out-of-line helpers: such an export compiles to a
+// call with its constants.  Other layouts hand a decoder to the skeletons.
 #pragma once
 
 #include <zovqmi.h>
+
+#include <utility>
 
 #include "msg/bytes.h"
 
@@ -77,6 +86,62 @@ inline int findTlv(const Message& m, uint8_t type, Item* out) { return walkTlv(m
 
 // Copies the result item 0x02 into *result (-3 when absent).
 int storeResult(const Message& m, QmiResult* result);
+
+// ---------------------------------------------------- plain-data shapes --
+
+// What a plain-data helper needs to know of an export, in one word:
+//   bits 0-15   message id
+//   bits 16-23  item type
+//   bits 24-27  value width in bytes (1, 2, 4 or 8), or the width of a
+//               length output
+//   bit 28      the control (CTL) header instead of the service header
+//   bit 29      indication: return the TLV-area length, not the item's
+//   bit 30      the required outputs are not all given (-1)
+using Ref = uint32_t;
+enum : Ref { kRefControl = 1u << 28, kRefIndication = 1u << 29, kRefNoOutputs = 1u << 30 };
+
+constexpr Ref ref(Header h, uint16_t id, uint8_t type = 0, size_t width = 0) {
+    return id | static_cast<Ref>(type) << 16 | static_cast<Ref>(width) << 24 |
+           (h == kControl ? Ref{kRefControl} : Ref{0});
+}
+constexpr Header refHeader(Ref r) { return (r & kRefControl) ? kControl : kService; }
+constexpr uint16_t refId(Ref r) { return static_cast<uint16_t>(r); }
+constexpr uint8_t refType(Ref r) { return static_cast<uint8_t>(r >> 16); }
+constexpr unsigned refWidth(Ref r) { return (r >> 24) & 0x0F; }
+inline Ref outputs(Ref r, bool outsOk) { return outsOk ? r : r | kRefNoOutputs; }
+
+// A scalar output: the value of its width at offset 0, in native order.
+struct Scalar {
+    void* out;
+    size_t width;
+};
+// The whole value as a byte string: its length into *length (width 1 or 2),
+// its bytes into data when data is non-null.
+struct Text {
+    void* length;
+    size_t width;
+    void* data;
+};
+// n value bytes at offset 0 copied as they are (records laid out as on the wire).
+struct Raw {
+    void* dst;
+    size_t n;
+};
+
+// The helpers.  Each checks everything it reads before it writes anything,
+// so none needs a dry pass.  A helper refuses a null output of its shape
+// (the scalar's output, the text's length, the record) with -1; the
+// skeletons below also refuse a false outsOk with -1 before they call it.
+// getValue and getBytes serve optional items (kRefIndication: the mandatory
+// item of an indication), respValue and respBytes the mandatory item 0x01
+// of a response.
+int getValue(const uint8_t* msg, int len, void* out, Ref r);
+int respValue(const uint8_t* msg, int len, QmiResult* result, void* out, Ref r);
+// Text (a width: its length output's) or raw bytes (no width: n bytes into data).
+int getBytes(const uint8_t* msg, int len, Ref r, void* length, void* data, size_t n);
+int respBytes(const uint8_t* msg, int len, QmiResult* result, Ref r, void* length, void* data, size_t n);
+int respResult(const uint8_t* msg, int len, QmiResult* result, Ref r);
+int indId(const uint8_t* msg, int len, Ref r);
 
 // ------------------------------------------------------------ decoding --
 
@@ -180,71 +245,100 @@ constexpr bool all(P*... p) {
     return (true && ... && (p != nullptr));
 }
 
-// Common decoders.
-// A scalar at value offset `off` into a native output (width from the output type).
+// Common decoders, as plain data.
+// A scalar at value offset 0 into a native output (width from the output type).
 template <class T>
-auto scalar(T* out, size_t off = 0) {
-    return [out, off](Dec& d) {
-        if constexpr (sizeof(T) == 1) d.put(out, d.u8(off));
-        else if constexpr (sizeof(T) == 2) d.put(out, d.le16(off));
-        else if constexpr (sizeof(T) == 4) d.put(out, d.le32(off));
-        else d.put(out, d.le64(off));
-    };
+Scalar scalar(T* out) {
+    static_assert(sizeof(T) == 1 || sizeof(T) == 2 || sizeof(T) == 4 || sizeof(T) == 8, "a scalar output");
+    return {out, sizeof(T)};
 }
 // The whole value as a byte string: its length into *length, its bytes into
 // data when data is non-null.
 template <class L>
-auto text(L* length, void* data) {
-    return [length, data](Dec& d) {
-        d.put(length, d.length);
-        d.copy(data, 0, d.length);
-    };
+Text text(L* length, void* data) {
+    static_assert(sizeof(L) == 1 || sizeof(L) == 2, "a one- or two-byte length");
+    return {length, sizeof(L), data};
 }
-// n bytes at value offset `off` copied as they are (records laid out as on the wire).
-inline auto raw(void* dst, size_t n, size_t off = 0) {
-    return [dst, n, off](Dec& d) { d.copy(dst, off, n); };
-}
+// n bytes at value offset 0 copied as they are (records laid out as on the wire).
+inline Raw raw(void* dst, size_t n) { return {dst, n}; }
 inline auto nothing() {
     return [](Dec&) {};
 }
 
 // ----------------------------------------------------------- skeletons --
 
-// The skeletons themselves, out of line (see pattern.cpp).
-int respItem(Header h, const uint8_t* msg, int len, QmiResult* result, uint16_t id, bool outsOk, DecoderRef f);
-int respResult(Header h, const uint8_t* msg, int len, QmiResult* result, uint16_t id);
-int getItem(Header h, const uint8_t* msg, int len, uint16_t id, uint8_t type, bool outsOk, DecoderRef f);
-int indItem(Header h, const uint8_t* msg, int len, uint16_t id, bool outsOk, DecoderRef f);
-int indId(Header h, const uint8_t* msg, int len, uint16_t id);
+// The skeletons themselves, out of line (see pattern.cpp).  The Ref names
+// header, message id and (for getItem) item type; kRefNoOutputs gives -1.
+int respItem(const uint8_t* msg, int len, QmiResult* result, Ref r, const DecoderRef& f);
+int getItem(const uint8_t* msg, int len, Ref r, const DecoderRef& f);
+
+// A decoder callable on a Dec (the plain-data shapes above are not).
+template <class F>
+using IfDecoder = decltype(std::declval<F&>()(std::declval<Dec&>()));
 
 // Response with a mandatory item 0x01 decoded by f.
-template <Header H = kService, class F>
+template <Header H = kService, class F, class = IfDecoder<F>>
 int resp(const uint8_t* msg, int len, QmiResult* result, uint16_t id, bool outsOk, F&& f) {
-    return respItem(H, msg, len, result, id, outsOk, DecoderRef(f));
+    return respItem(msg, len, result, outputs(ref(H, id), outsOk), DecoderRef(f));
+}
+template <Header H = kService>
+int resp(const uint8_t* msg, int len, QmiResult* result, uint16_t id, bool outsOk, Scalar s) {
+    if (!outsOk) return kErrArg;
+    return respValue(msg, len, result, s.out, ref(H, id, 0x01, s.width));
+}
+template <Header H = kService>
+int resp(const uint8_t* msg, int len, QmiResult* result, uint16_t id, bool outsOk, Text t) {
+    if (!outsOk) return kErrArg;
+    return respBytes(msg, len, result, ref(H, id, 0x01, t.width), t.length, t.data, 0);
+}
+template <Header H = kService>
+int resp(const uint8_t* msg, int len, QmiResult* result, uint16_t id, bool outsOk, Raw b) {
+    if (!outsOk) return kErrArg;
+    return respBytes(msg, len, result, ref(H, id, 0x01), nullptr, b.dst, b.n);
 }
 
 // Response that carries only the result item.
 template <Header H = kService>
 int resp(const uint8_t* msg, int len, QmiResult* result, uint16_t id) {
-    return respResult(H, msg, len, result, id);
+    return respResult(msg, len, result, ref(H, id));
 }
 
 // Optional item `type` of a response or indication, decoded by f.
-template <Header H = kService, class F>
+template <Header H = kService, class F, class = IfDecoder<F>>
 int get(const uint8_t* msg, int len, uint16_t id, uint8_t type, bool outsOk, F&& f) {
-    return getItem(H, msg, len, id, type, outsOk, DecoderRef(f));
+    return getItem(msg, len, outputs(ref(H, id, type), outsOk), DecoderRef(f));
+}
+template <Header H = kService>
+int get(const uint8_t* msg, int len, uint16_t id, uint8_t type, bool outsOk, Scalar s) {
+    if (!outsOk) return kErrArg;
+    return getValue(msg, len, s.out, ref(H, id, type, s.width));
+}
+template <Header H = kService>
+int get(const uint8_t* msg, int len, uint16_t id, uint8_t type, bool outsOk, Text t) {
+    if (!outsOk) return kErrArg;
+    return getBytes(msg, len, ref(H, id, type, t.width), t.length, t.data, 0);
+}
+template <Header H = kService>
+int get(const uint8_t* msg, int len, uint16_t id, uint8_t type, bool outsOk, Raw b) {
+    if (!outsOk) return kErrArg;
+    return getBytes(msg, len, ref(H, id, type), nullptr, b.dst, b.n);
 }
 
 // Indication with a mandatory item 0x01 decoded by f (-3 when it is missing).
-template <Header H = kService, class F>
+template <Header H = kService, class F, class = IfDecoder<F>>
 int ind(const uint8_t* msg, int len, uint16_t id, bool outsOk, F&& f) {
-    return indItem(H, msg, len, id, outsOk, DecoderRef(f));
+    return getItem(msg, len, outputs(ref(H, id, 0x01) | kRefIndication, outsOk), DecoderRef(f));
+}
+template <Header H = kService>
+int ind(const uint8_t* msg, int len, uint16_t id, bool outsOk, Scalar s) {
+    if (!outsOk) return kErrArg;
+    return getValue(msg, len, s.out, ref(H, id, 0x01, s.width) | kRefIndication);
 }
 
 // Indication whose items are read by getters: confirms the id only.
 template <Header H = kService>
 int ind(const uint8_t* msg, int len, uint16_t id) {
-    return indId(H, msg, len, id);
+    return indId(msg, len, ref(H, id));
 }
 
 // ------------------------------------------------------------ building --
@@ -334,12 +428,18 @@ WFn<F> wfn(size_t n, F fn) {
 // Writes a request header with a fresh transaction id.
 void writeHeader(Header h, uint8_t* buf, uint16_t id, uint16_t areaLen);
 
+// The builders' helpers.  A Ref names header and message id (requests) or
+// item type (optional items), and the value's width.
+int request(uint8_t* buf, int bufsize, Ref r);
+int requestValue(uint8_t* buf, int bufsize, uint32_t v, Ref r);
+int addValue(uint8_t* buf, int bufsize, uint32_t v, Ref r);
+// n bytes from p (a non-zero n with a null p is refused).
+int addBytes(uint8_t* buf, int bufsize, Ref r, size_t n, const void* p);
+
 // Header-only request.
 template <Header H = kService>
 int req(uint8_t* buf, int bufsize, uint16_t id) {
-    if (!buf || bufsize < headerSize(H)) return kErrArg;
-    writeHeader(H, buf, id, 0);
-    return headerSize(H);
+    return request(buf, bufsize, ref(H, id));
 }
 
 // Request with its mandatory item 0x01 written right behind the header.
@@ -356,6 +456,19 @@ int reqTlv(uint8_t* buf, int bufsize, uint16_t id, W... w) {
     p += 2;
     (w.write(p), ...);
     return static_cast<int>(total);
+}
+// ... of one value of up to 32 bits.
+template <Header H = kService>
+int reqTlv(uint8_t* buf, int bufsize, uint16_t id, W8 w) {
+    return requestValue(buf, bufsize, w.v, ref(H, id, 0x01, 1));
+}
+template <Header H = kService>
+int reqTlv(uint8_t* buf, int bufsize, uint16_t id, W16 w) {
+    return requestValue(buf, bufsize, w.v, ref(H, id, 0x01, 2));
+}
+template <Header H = kService>
+int reqTlv(uint8_t* buf, int bufsize, uint16_t id, W32 w) {
+    return requestValue(buf, bufsize, w.v, ref(H, id, 0x01, 4));
 }
 
 // Makes room for one item of n value bytes at the end of a message whose
@@ -376,6 +489,28 @@ int add(uint8_t* buf, int bufsize, uint8_t type, W... w) {
     if (!p) return total;
     (w.write(p), ...);
     return total;
+}
+// ... of one value of up to 32 bits, or of one byte string or record.
+template <Header H = kService>
+int add(uint8_t* buf, int bufsize, uint8_t type, W8 w) {
+    return addValue(buf, bufsize, w.v, ref(H, 0, type, 1));
+}
+template <Header H = kService>
+int add(uint8_t* buf, int bufsize, uint8_t type, W16 w) {
+    return addValue(buf, bufsize, w.v, ref(H, 0, type, 2));
+}
+template <Header H = kService>
+int add(uint8_t* buf, int bufsize, uint8_t type, W32 w) {
+    return addValue(buf, bufsize, w.v, ref(H, 0, type, 4));
+}
+template <Header H = kService>
+int add(uint8_t* buf, int bufsize, uint8_t type, WBytes w) {
+    return addBytes(buf, bufsize, ref(H, 0, type), w.n, w.p);
+}
+// A record's size is never 0, so "null refused" is the byte string's rule too.
+template <Header H = kService>
+int add(uint8_t* buf, int bufsize, uint8_t type, WRecord w) {
+    return addBytes(buf, bufsize, ref(H, 0, type), w.n, w.p);
 }
 
 }  // namespace zq

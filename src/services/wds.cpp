@@ -46,11 +46,19 @@ auto ipv6WithPrefix(uint8_t* address, uint8_t* prefixLength) {
 // GetRuntimeSettings (0x002D), where the higher types carry other items.
 enum ProfileIds { kSettingsOnly, kWithRuntime };
 
-template <class F>
+inline bool profileMessage(uint16_t messageId, ProfileIds ids) {
+    return messageId == 0x002B || messageId == 0x002C || (ids == kWithRuntime && messageId == 0x002D);
+}
+template <class F, class = IfDecoder<F>>
 int profileGet(const uint8_t* msg, int len, uint16_t messageId, ProfileIds ids, uint8_t type, bool outsOk, F&& f) {
-    bool accepted = messageId == 0x002B || messageId == 0x002C || (ids == kWithRuntime && messageId == 0x002D);
-    if (!msg || !outsOk || !accepted) return kErrArg;
+    if (!msg || !outsOk || !profileMessage(messageId, ids)) return kErrArg;
     return get(msg, len, messageId, type, true, f);
+}
+// A plain-data shape: its helper checks the buffer.
+template <class Shape>
+int profileGet(const uint8_t* msg, int len, uint16_t messageId, ProfileIds ids, uint8_t type, bool outsOk, Shape s) {
+    if (!outsOk || !profileMessage(messageId, ids)) return kErrArg;
+    return get(msg, len, messageId, type, true, s);
 }
 
 // A list of names: count u8, then per name a u16 length and its bytes, into
