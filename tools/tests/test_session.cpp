@@ -1,10 +1,12 @@
 // The router tools' session layer against the simulated modem, through the
 // in-process SOCK_SEQPACKET transport (one frame per read, as on the device).
+#include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
 #include <memory>
 #include <string>
+#include <thread>
 
 #include "json.h"
 #include "modem.h"
@@ -166,6 +168,43 @@ TEST(ToolSession, EndOfFileIsReportedAsDeviceClosed) {
     if (rc == kDeviceClosed) {
         EXPECT_STREQ(s->error(), "device closed");
     }
+}
+
+TEST(ToolSession, ReadOfNothingIsReportedAsDeviceClosed) {
+    // The other end still takes requests but will never send again: a read
+    // of 0 bytes, which is an end of file, not a short frame.
+    int sv[2];
+    ASSERT_EQ(socketpair(AF_UNIX, SOCK_SEQPACKET, 0, sv), 0);
+    ASSERT_EQ(shutdown(sv[1], SHUT_WR), 0);
+    std::unique_ptr<Session> s(new Session);
+    s->attach(sv[0], true);
+    uint8_t buf[64];
+    int n = zovQMICTLSyncReq(buf, sizeof buf);
+    static Message resp;
+    EXPECT_EQ(s->request(ZOVQMI_SERVICE_CTL, 0, buf, n, &resp), kDeviceClosed);
+    EXPECT_STREQ(s->error(), "device closed");
+    close(sv[1]);
+}
+
+TEST(ToolSession, FailedReadIsReportedAsDeviceGoneWithItsReason) {
+    // The other end goes away with the request unread: the read fails with
+    // ECONNRESET, named in the error text.
+    int sv[2];
+    ASSERT_EQ(socketpair(AF_UNIX, SOCK_SEQPACKET, 0, sv), 0);
+    std::thread peer([&] {
+        pollfd p = {sv[1], POLLIN, 0};
+        poll(&p, 1, 2000);
+        close(sv[1]);
+    });
+    std::unique_ptr<Session> s(new Session);
+    s->attach(sv[0], true);
+    uint8_t buf[64];
+    int n = zovQMICTLSyncReq(buf, sizeof buf);
+    static Message resp;
+    int rc = s->request(ZOVQMI_SERVICE_CTL, 0, buf, n, &resp);
+    peer.join();
+    EXPECT_EQ(rc, kDeviceGone);
+    EXPECT_STREQ(s->error(), "device gone: Connection reset by peer");
 }
 
 TEST(ToolSession, WakeDescriptorInterruptsAWait) {
