@@ -1547,10 +1547,12 @@ int runSingleFix(Cli& c, Step&) {
     Fix fix = {};
     c.out.open("fix");
     c.out.openArray("nmea");
-    int64_t until = monotonicMs() + 60000;
+    // A fix may take a minute under an open sky; --timeout bounds it instead.
+    int limit = c.set.timeoutGiven ? c.s.timeout() : 60000;
+    int64_t until = monotonicMs() + limit;
     while (!fix.has) {
         int left = int(until - monotonicMs());
-        if (left <= 0) return c.s.fail(kTimeout, "timeout: no position within 60 s");
+        if (left <= 0) return c.s.fail(kTimeout, "timeout: no position within %d ms", limit);
         if ((rc = c.s.awaitIndication(ZOVQMI_SERVICE_PDS, 0x0001, left, &gM)) != kOk) return rc;
         if ((rc = eventReport(c, &fix)) != kOk) return rc;
     }

@@ -54,6 +54,7 @@ struct Settings {
     int profile = -1;          // 3GPP profile index for --wds-start-network
     int ipFamily = 0;          // 0 not given, 4 or 6
     long count = 0;            // --count: fixes to print, 0 until interrupted
+    bool timeoutGiven = false; // --timeout given: it also bounds a whole fix
     const char* profileName = nullptr;
     const char* apn = nullptr;
     int pdpType = -1;          // 0 IPv4, 2 IPv6, 3 IPv4v6

@@ -256,6 +256,11 @@ int runCli(int argc, char** argv) {
     // --- the session --------------------------------------------------------
     catchSignals();
     c.wakeFd = gWake[0];
+    c.set.timeoutGiven = timeoutGiven;
+    // A signal of an earlier run (tests run the tool in-process) is past.
+    char stale;
+    while (c.wakeFd >= 0 && read(c.wakeFd, &stale, 1) == 1) {
+    }
     c.out.begin(json, stdout);
     c.s.setTimeout(int(timeout));
     c.s.setHexDump(hex);
