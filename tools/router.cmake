@@ -2,11 +2,21 @@
 # layer) needs libc and libzovqmi alone: compiled without exceptions, RTTI or
 # thread-safe statics, linked with the C driver so that neither libstdc++ nor
 # libgcc_s becomes NEEDED.
-set(ZOVQMI_ROUTER_FLAGS -Wall -Wextra -fno-exceptions -fno-rtti -fno-threadsafe-statics
+set(ZOVQMI_ROUTER_FLAGS -Os -Wall -Wextra -fno-exceptions -fno-rtti -fno-threadsafe-statics
     -fno-asynchronous-unwind-tables -ffunction-sections -fdata-sections)
 
+# A program's own objects are built as position-dependent code (smaller,
+# above all on MIPS, where -mno-shared drops the PIC call sequences); the
+# static libraries it shares with the tests stay position-independent.
+set(ZOVQMI_ROUTER_PROGRAM_FLAGS -fno-pie)
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "^mips")
+  list(APPEND ZOVQMI_ROUTER_PROGRAM_FLAGS -mno-shared)
+endif()
+
 function(zovqmi_router_program target)
-  target_compile_options(${target} PRIVATE ${ZOVQMI_ROUTER_FLAGS})
+  target_compile_options(${target} PRIVATE ${ZOVQMI_ROUTER_FLAGS} ${ZOVQMI_ROUTER_PROGRAM_FLAGS})
+  set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE OFF)
+  target_link_options(${target} PRIVATE -no-pie)
   set_target_properties(${target} PROPERTIES LINKER_LANGUAGE C)
   target_link_options(${target} PRIVATE -static-libgcc -Wl,--as-needed -Wl,--gc-sections)
 endfunction()
