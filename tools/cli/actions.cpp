@@ -16,7 +16,8 @@ namespace zovapp {
 
 namespace {
 
-// The answer being decoded (one at a time) and the request being built.
+// The answer being decoded (one at a time) and the request being built
+// (large enough for any request the actions build).
 Message gM;
 uint8_t gReq[kMaxMessage];
 
@@ -33,16 +34,9 @@ uint64_t le64(const void* p) {
     return uint64_t(le32(b)) | uint64_t(le32(b + 4)) << 32;
 }
 
-// The TLV area of the answer in gM (for sizes checked before a copy).
-int areaLen() { return gM.len > 7 ? gM.len - 7 : 0; }
-
 int bad(Cli& c, const char* what, const char* why) {
     return c.s.fail(kBadAnswer, "%s: unexpected answer (%s)", what, why);
 }
-
-// One request on `service` answered into gM and checked with the parser's
-// return code and result record.
-#define CHECKED(what, parse) c.s.check(what, (parse), r)
 
 // --- names ------------------------------------------------------------------
 
@@ -141,47 +135,153 @@ int serviceOf(const char* s, const char** rest) {
     return serviceByName(name);
 }
 
-// --- shared decoding ----------------------------------------------------------
+// --- requests and answers ---------------------------------------------------
+//
+// Requests are built here and answers read here, item by item, through the
+// library's framing layer (transaction ids, item lookup): one small reader
+// for every message keeps the program small, and every read is checked
+// against the item's length.
 
-// A text item read with a getter of the (msg, len, u16* length, void* data)
-// family into `out` (NUL-terminated); false when absent or too long.
-using TextGet = int (*)(const uint8_t*, int, uint16_t*, void*);
-bool textItem(TextGet get, char* out, int cap) {
-    uint16_t len = 0;
-    out[0] = 0;
-    if (get(gM.bytes, gM.len, &len, nullptr) < 0 || len >= cap || len > areaLen()) return false;
-    if (len && get(gM.bytes, gM.len, &len, out) < 0) return false;
-    out[len] = 0;
+int gReqLen = 0;
+bool gReqCtl = false;
+
+// Starts a request `id` of `service`.
+void begin(uint8_t service, uint16_t id) {
+    gReqCtl = service == ZOVQMI_SERVICE_CTL;
+    uint16_t tx = uint16_t(zovQMIMSMGetNextTransactionID());
+    int k = 0;
+    gReq[k++] = 0;
+    gReq[k++] = uint8_t(tx);
+    if (!gReqCtl) gReq[k++] = uint8_t(tx >> 8);
+    gReq[k++] = uint8_t(id);
+    gReq[k++] = uint8_t(id >> 8);
+    gReq[k++] = 0;
+    gReq[k++] = 0;
+    gReqLen = k;
+}
+
+// Appends an item (arguments are checked to fit long before).
+void add(uint8_t type, const void* value, int len) {
+    if (gReqLen + 3 + len > int(sizeof gReq)) return;
+    uint8_t* p = gReq + gReqLen;
+    p[0] = type;
+    p[1] = uint8_t(len);
+    p[2] = uint8_t(len >> 8);
+    if (len) memcpy(p + 3, value, size_t(len));
+    gReqLen += 3 + len;
+    int area = gReqLen - (gReqCtl ? 6 : 7);
+    gReq[gReqCtl ? 4 : 5] = uint8_t(area);
+    gReq[gReqCtl ? 5 : 6] = uint8_t(area >> 8);
+}
+void add8(uint8_t type, uint32_t v) {
+    uint8_t b = uint8_t(v);
+    add(type, &b, 1);
+}
+void add16(uint8_t type, uint32_t v) {
+    uint8_t b[2] = {uint8_t(v), uint8_t(v >> 8)};
+    add(type, b, 2);
+}
+void add32(uint8_t type, uint32_t v) {
+    uint8_t b[4] = {uint8_t(v), uint8_t(v >> 8), uint8_t(v >> 16), uint8_t(v >> 24)};
+    add(type, b, 4);
+}
+void addText(uint8_t type, const char* s) { add(type, s, int(strlen(s))); }
+
+// The items of the message in gM.
+const uint8_t* gArea = nullptr;
+int gAreaLen = 0;
+
+// Finds the item area of gM; false when the header does not hold.
+bool items() {
+    int head = gM.service == ZOVQMI_SERVICE_CTL ? 6 : 7;
+    gArea = nullptr;
+    gAreaLen = 0;
+    if (gM.len < head) return false;
+    int n = le16(gM.bytes + head - 2);
+    if (n > gM.len - head) return false;
+    gArea = gM.bytes + head;
+    gAreaLen = n;
     return true;
 }
 
-// A response whose mandatory item is a text (manufacturer, MSISDN, ICCID...).
-using TextResp = int (*)(const uint8_t*, int, QmiResult*, uint16_t*, void*);
-int textRequest(Cli& c, uint8_t service, const char* what, int (*req)(uint8_t*, int), TextResp resp, char* out,
-                int cap) {
-    int rc = c.s.request(service, gReq, req(gReq, sizeof gReq), &gM);
+// One item of gM: every read is checked against its length (a read past
+// it gives 0 and marks the item short).
+struct Item {
+    const uint8_t* p = nullptr;
+    int n = 0;
+    bool found = false;
+
+    bool has(int off, int size) const { return found && off >= 0 && off + size <= n; }
+    uint8_t u8(int off) const { return has(off, 1) ? p[off] : 0; }
+    uint16_t u16(int off) const { return has(off, 2) ? le16(p + off) : 0; }
+    uint32_t u32(int off) const { return has(off, 4) ? le32(p + off) : 0; }
+    uint64_t u64(int off) const { return has(off, 8) ? le64(p + off) : 0; }
+    const char* at(int off) const { return reinterpret_cast<const char*>(p + off); }
+};
+
+Item item(uint8_t type) {
+    Item it;
+    uint16_t n = 0;
+    const uint8_t* v = gArea ? zovQMIMSMGetTLV(gArea, gAreaLen, type, &n) : nullptr;
+    if (v && v >= gArea && v + n <= gArea + gAreaLen) {
+        it.p = v;
+        it.n = n;
+        it.found = true;
+    }
+    return it;
+}
+
+// Sends the request built and reads the answer's items, without judging
+// its result.
+int send(Cli& c, uint8_t service, const char* what) {
+    int rc = c.s.request(service, gReq, gReqLen, &gM);
     if (rc != kOk) return rc;
-    QmiResult r = {};
-    uint16_t len = 0;
-    rc = CHECKED(what, resp(gM.bytes, gM.len, &r, &len, nullptr));
+    if (!items()) return bad(c, what, "items longer than the message");
+    return kOk;
+}
+
+// The result item of the answer: kOk, or the failure named after `what`.
+int result(Cli& c, const char* what) {
+    Item r = item(0x02);
+    if (!r.has(0, 4)) return bad(c, what, "no result");
+    return c.s.check(what, 0, *reinterpret_cast<const QmiResult*>(r.p));
+}
+
+int ask(Cli& c, uint8_t service, const char* what) {
+    int rc = send(c, service, what);
+    return rc != kOk ? rc : result(c, what);
+}
+
+// A mandatory item of at least `size` bytes.
+int need(Cli& c, const char* what, uint8_t type, int size, Item* it) {
+    *it = item(type);
+    if (!it->has(0, size)) return bad(c, what, "an item is missing or short");
+    return kOk;
+}
+
+// A text item into `out` (NUL-terminated); false when absent or too long.
+bool text(uint8_t type, char* out, int cap) {
+    Item it = item(type);
+    out[0] = 0;
+    if (!it.found || it.n >= cap) return false;
+    memcpy(out, it.p, size_t(it.n));
+    out[it.n] = 0;
+    return true;
+}
+
+// A request without items whose answer's item 0x01 is a text.
+int textRequest(Cli& c, uint8_t service, uint16_t id, const char* what, char* out, int cap) {
+    begin(service, id);
+    int rc = ask(c, service, what);
     if (rc != kOk) return rc;
-    if (len >= cap || len > areaLen()) return bad(c, what, "text too long");
-    if (len && resp(gM.bytes, gM.len, &r, &len, out) < 0) return bad(c, what, "text unreadable");
-    out[len] = 0;
+    Item it = item(0x01);
+    if (!it.found) return bad(c, what, "no text");
+    if (!text(0x01, out, cap)) return bad(c, what, "text too long");
     return kOk;
 }
 
 void ipv4Text(uint32_t a, char* out, size_t cap) {
     snprintf(out, cap, "%u.%u.%u.%u", a >> 24, a >> 16 & 255, a >> 8 & 255, a & 255);
-}
-
-// A request built and answered, the answer checked; for actions whose
-// answer carries nothing but the result.
-int simple(Cli& c, uint8_t service, const char* what, int n, int (*resp)(const uint8_t*, int, QmiResult*)) {
-    int rc = c.s.request(service, gReq, n, &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    return CHECKED(what, resp(gM.bytes, gM.len, &r));
 }
 
 // ============================================================== client ids ==
@@ -206,25 +306,22 @@ int runGetClientId(Cli& c, Step& st) {
 
 // ===================================================================== DMS ==
 
+constexpr uint8_t kDms = ZOVQMI_SERVICE_DMS, kNas = ZOVQMI_SERVICE_NAS, kWds = ZOVQMI_SERVICE_WDS,
+                  kWms = ZOVQMI_SERVICE_WMS, kPds = ZOVQMI_SERVICE_PDS, kPbm = ZOVQMI_SERVICE_PBM;
+
 int runDmsIds(Cli& c, Step&) {
     static char mfr[256], model[256], rev[256], hw[256], imei[64], esn[64], meid[64];
     int rc;
-    if ((rc = textRequest(c, ZOVQMI_SERVICE_DMS, "manufacturer", zovQMIDMSGetDeviceMfrReq, zovQMIDMSGetDeviceMfrResp,
-                          mfr, sizeof mfr)) != kOk ||
-        (rc = textRequest(c, ZOVQMI_SERVICE_DMS, "model", zovQMIDMSGetDeviceModelIDReq,
-                          zovQMIDMSGetDeviceModelIDResp, model, sizeof model)) != kOk ||
-        (rc = textRequest(c, ZOVQMI_SERVICE_DMS, "revision", zovQMIDMSGetDeviceRevIDReq, zovQMIDMSGetDeviceRevIDResp,
-                          rev, sizeof rev)) != kOk ||
-        (rc = textRequest(c, ZOVQMI_SERVICE_DMS, "hardware revision", zovQMIDMSGetDeviceHardwareRevReq,
-                          zovQMIDMSGetDeviceHardwareRevResp, hw, sizeof hw)) != kOk)
+    if ((rc = textRequest(c, kDms, 0x0021, "manufacturer", mfr, sizeof mfr)) != kOk ||
+        (rc = textRequest(c, kDms, 0x0022, "model", model, sizeof model)) != kOk ||
+        (rc = textRequest(c, kDms, 0x0023, "revision", rev, sizeof rev)) != kOk ||
+        (rc = textRequest(c, kDms, 0x002C, "hardware revision", hw, sizeof hw)) != kOk)
         return rc;
-    rc = c.s.request(ZOVQMI_SERVICE_DMS, gReq, zovQMIDMSGetDeviceSerialNumbersReq(gReq, sizeof gReq), &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    if ((rc = CHECKED("serial numbers", zovQMIDMSGetDeviceSerialNumbersResp(gM.bytes, gM.len, &r))) != kOk) return rc;
-    textItem(zovQMIDMSGetDeviceSerialNumbersRespGetIMEI, imei, sizeof imei);
-    textItem(zovQMIDMSGetDeviceSerialNumbersRespGetESN, esn, sizeof esn);
-    textItem(zovQMIDMSGetDeviceSerialNumbersRespGetMEID, meid, sizeof meid);
+    begin(kDms, 0x0025);
+    if ((rc = ask(c, kDms, "serial numbers")) != kOk) return rc;
+    text(0x10, esn, sizeof esn);
+    text(0x11, imei, sizeof imei);
+    text(0x12, meid, sizeof meid);
     c.out.open("ids");
     c.out.str("manufacturer", "manufacturer", mfr);
     c.out.str("model", "model", model);
@@ -238,37 +335,46 @@ int runDmsIds(Cli& c, Step&) {
 }
 
 int runDmsMsisdn(Cli& c, Step&) {
-    static char msisdn[128];
-    int rc = textRequest(c, ZOVQMI_SERVICE_DMS, "MSISDN", zovQMIDMSGetMSISDNReq, zovQMIDMSGetMSISDNResp, msisdn,
-                         sizeof msisdn);
-    if (rc == kOk) c.out.str("msisdn", "MSISDN", msisdn);
+    char v[128];
+    int rc = textRequest(c, kDms, 0x0024, "MSISDN", v, sizeof v);
+    if (rc == kOk) c.out.str("msisdn", "MSISDN", v);
+    return rc;
+}
+
+int runIccid(Cli& c, Step&) {
+    char v[64];
+    int rc = textRequest(c, kDms, 0x003C, "ICCID", v, sizeof v);
+    if (rc == kOk) c.out.str("iccid", "ICCID", v);
+    return rc;
+}
+
+int runImsi(Cli& c, Step&) {
+    char v[64];
+    int rc = textRequest(c, kDms, 0x0043, "IMSI", v, sizeof v);
+    if (rc == kOk) c.out.str("imsi", "IMSI", v);
     return rc;
 }
 
 int runDmsCapabilities(Cli& c, Step&) {
-    int rc = c.s.request(ZOVQMI_SERVICE_DMS, gReq, zovQMIDMSGetDeviceCapReq(gReq, sizeof gReq), &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    DMSDeviceCapabilities caps;
-    memset(&caps, 0, sizeof caps);
     const char* what = "capabilities";
-    if ((rc = CHECKED(what, zovQMIDMSGetDeviceCapResp(gM.bytes, gM.len, &r, &caps))) != kOk) return rc;
-    uint8_t radios[256];
-    if (caps.listCount > areaLen()) return bad(c, what, "radio list longer than the message");
-    caps.list = radios;
-    if (zovQMIDMSGetDeviceCapResp(gM.bytes, gM.len, &r, &caps) < 0) return bad(c, what, "radio list unreadable");
+    begin(kDms, 0x0020);
+    Item it;
+    int rc = ask(c, kDms, what);
+    if (rc != kOk || (rc = need(c, what, 0x01, 11, &it)) != kOk) return rc;
+    int count = it.u8(10);
+    if (!it.has(11, count)) return bad(c, what, "radio list longer than its item");
     static const char* const data[] = {"none", "cs", "ps", "simultaneous cs and ps", "non-simultaneous cs and ps"};
-    uint8_t d = caps.capabilityByte1, sim = caps.capabilityByte2;
+    uint8_t d = it.u8(8), sim = it.u8(9);
     c.out.open("capabilities");
-    c.out.num("max_tx_rate", "max TX rate (bps)", le32(&caps.capability1));
-    c.out.num("max_rx_rate", "max RX rate (bps)", le32(&caps.capability2));
+    c.out.num("max_tx_rate", "max TX rate (bps)", it.u32(0));
+    c.out.num("max_rx_rate", "max RX rate (bps)", it.u32(4));
     c.out.str("data_service", "data service", d < 5 ? data[d] : "unknown");
     c.out.str("sim", "SIM", sim == 2 ? "supported" : sim == 1 ? "not supported" : "unknown");
     c.out.openArray("radios");
     c.out.text("radios:");
-    for (int i = 0; i < caps.listCount; ++i) {
-        c.out.jstr(nullptr, radioName(radios[i]));
-        c.out.text(" %s", radioName(radios[i]));
+    for (int i = 0; i < count; ++i) {
+        c.out.jstr(nullptr, radioName(it.u8(11 + i)));
+        c.out.text(" %s", radioName(it.u8(11 + i)));
     }
     c.out.text("\n");
     c.out.close();
@@ -277,30 +383,28 @@ int runDmsCapabilities(Cli& c, Step&) {
 }
 
 int runDmsPowerState(Cli& c, Step&) {
-    int rc = c.s.request(ZOVQMI_SERVICE_DMS, gReq, zovQMIDMSGetPowerStateReq(gReq, sizeof gReq), &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    uint8_t state = 0, level = 0;
-    if ((rc = CHECKED("power state", zovQMIDMSGetPowerStateResp(gM.bytes, gM.len, &r, &state, &level))) != kOk)
-        return rc;
+    const char* what = "power state";
+    begin(kDms, 0x0026);
+    Item it;
+    int rc = ask(c, kDms, what);
+    if (rc != kOk || (rc = need(c, what, 0x01, 2, &it)) != kOk) return rc;
     c.out.open("power_state");
-    c.out.jnum("flags", state);
-    c.out.text("power state flags: 0x%02X\n", state);
-    c.out.num("battery_level", "battery level (%)", level);
+    c.out.jnum("flags", it.u8(0));
+    c.out.text("power state flags: 0x%02X\n", it.u8(0));
+    c.out.num("battery_level", "battery level (%)", it.u8(1));
     c.out.close();
     return kOk;
 }
 
 int runDmsTime(Cli& c, Step&) {
-    int rc = c.s.request(ZOVQMI_SERVICE_DMS, gReq, zovQMIDMSGetTimeReq(gReq, sizeof gReq), &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    uint8_t count[6] = {};
-    uint16_t source = 0;
-    if ((rc = CHECKED("time", zovQMIDMSGetTimeResp(gM.bytes, gM.len, &r, count, &source))) != kOk) return rc;
+    const char* what = "time";
+    begin(kDms, 0x002F);
+    Item it;
+    int rc = ask(c, kDms, what);
+    if (rc != kOk || (rc = need(c, what, 0x01, 8, &it)) != kOk) return rc;
     // 1.25 ms units since the GPS epoch, 1980-01-06 00:00:00 UTC.
     uint64_t ticks = 0;
-    for (int i = 5; i >= 0; --i) ticks = ticks << 8 | count[i];
+    for (int i = 5; i >= 0; --i) ticks = ticks << 8 | it.u8(i);
     uint64_t ms = ticks * 5 / 4;
     time_t secs = time_t(315964800 + ms / 1000);
     struct tm t;
@@ -310,22 +414,21 @@ int runDmsTime(Cli& c, Step&) {
     c.out.open("time");
     c.out.str("time", "time", when);
     c.out.num("gps_time_ms", "GPS time (ms)", (long long)ms);
-    c.out.num("source", "time source", source);
-    uint64_t v;
-    if (zovQMIDMSGetTimeRespGetSystemTimeInMS(gM.bytes, gM.len, &v) >= 0)
-        c.out.num("system_time_ms", "system time (ms)", (long long)v);
-    if (zovQMIDMSGetTimeRespGetUserTimeInMS(gM.bytes, gM.len, &v) >= 0)
-        c.out.num("user_time_ms", "user time (ms)", (long long)v);
+    c.out.num("source", "time source", it.u16(6));
+    Item sys = item(0x10), user = item(0x11);
+    if (sys.has(0, 8)) c.out.num("system_time_ms", "system time (ms)", (long long)sys.u64(0));
+    if (user.has(0, 8)) c.out.num("user_time_ms", "user time (ms)", (long long)user.u64(0));
     c.out.close();
     return kOk;
 }
 
 int runDmsGetMode(Cli& c, Step&) {
-    int rc = c.s.request(ZOVQMI_SERVICE_DMS, gReq, zovQMIDMSGetOperatingModeReq(gReq, sizeof gReq), &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    uint8_t mode = 0;
-    if ((rc = CHECKED("operating mode", zovQMIDMSGetOperatingModeResp(gM.bytes, gM.len, &r, &mode))) != kOk) return rc;
+    const char* what = "operating mode";
+    begin(kDms, 0x002D);
+    Item it;
+    int rc = ask(c, kDms, what);
+    if (rc != kOk || (rc = need(c, what, 0x01, 1, &it)) != kOk) return rc;
+    uint8_t mode = it.u8(0);
     c.out.open("operating_mode");
     c.out.jnum("mode", mode);
     c.out.jstr("name", modeName(mode));
@@ -346,8 +449,9 @@ int checkSetMode(Step& st) {
 
 int runDmsSetMode(Cli& c, Step& st) {
     uint8_t mode = uint8_t(st.n[0]);
-    int rc = simple(c, ZOVQMI_SERVICE_DMS, "set operating mode", zovQMIDMSSetOperatingModeReq(gReq, sizeof gReq, mode),
-                    zovQMIDMSSetOperatingModeResp);
+    begin(kDms, 0x002E);
+    add8(0x01, mode);
+    int rc = ask(c, kDms, "set operating mode");
     if (rc == kOk) {
         c.out.jstr("set_operating_mode", modeName(mode));
         c.out.text("operating mode set: %s\n", modeName(mode));
@@ -356,7 +460,8 @@ int runDmsSetMode(Cli& c, Step& st) {
 }
 
 int runDmsReset(Cli& c, Step&) {
-    int rc = simple(c, ZOVQMI_SERVICE_DMS, "reset", zovQMIDMSResetReq(gReq, sizeof gReq), zovQMIDMSResetResp);
+    begin(kDms, 0x0000);
+    int rc = ask(c, kDms, "reset");
     if (rc == kOk) {
         c.out.jstr("dms_reset", "done");
         c.out.text("DMS service reset\n");
@@ -366,63 +471,72 @@ int runDmsReset(Cli& c, Step&) {
 
 // ===================================================================== UIM ==
 
-// The result of a PIN operation: the retries left come with success and
-// failure alike; a failure names them.
-using Retries = int (*)(const uint8_t*, int, uint8_t*, uint8_t*);
-int pinResult(Cli& c, const char* what, int parseRc, const QmiResult& r, Retries get, uint8_t* left,
-              uint8_t* unblockLeft) {
-    bool have = get(gM.bytes, gM.len, left, unblockLeft) >= 0;
-    if (!have) *left = *unblockLeft = 0xFF;
+// A PIN request built by the caller: the retries left come with success and
+// failure alike, and a failure names them.  Prints the outcome under `key`.
+int pinRequest(Cli& c, const char* what, const char* key, const char* flag, bool value, const char* done) {
+    int rc = send(c, kDms, what);
+    if (rc != kOk) return rc;
+    Item r = item(0x10);
+    bool have = r.has(0, 2);
     char w[96];
-    if (have && le16(&r) != 0)
-        snprintf(w, sizeof w, "%s (%u retries left, %u unblock retries left)", what, *left, *unblockLeft);
+    Item res = item(0x02);
+    if (have && res.has(0, 4) && res.u16(0) != 0)
+        snprintf(w, sizeof w, "%s (%u retries left, %u unblock retries left)", what, r.u8(0), r.u8(1));
     else
         snprintf(w, sizeof w, "%s", what);
-    return c.s.check(w, parseRc, r);
+    if ((rc = result(c, w)) != kOk) return rc;
+    c.out.open(key);
+    c.out.flag(flag, nullptr, value);
+    if (have) {
+        c.out.jnum("retries_left", r.u8(0));
+        c.out.jnum("unblock_retries_left", r.u8(1));
+    }
+    c.out.close();
+    if (done) c.out.text("%s\n", done);
+    else c.out.text("PIN verified (%u retries left, %u unblock retries left)\n", r.u8(0), r.u8(1));
+    return kOk;
 }
 
-void retriesOut(Cli& c, uint8_t left, uint8_t unblockLeft) {
-    if (left != 0xFF) c.out.jnum("retries_left", left);
-    if (unblockLeft != 0xFF) c.out.jnum("unblock_retries_left", unblockLeft);
+// The value of a PIN item: PIN id 1, then length-prefixed codes.
+void pinItem(int first, const char* a, const char* b) {
+    uint8_t v[2 + 2 * 17];
+    int n = 0;
+    v[n++] = 1;
+    if (first >= 0) v[n++] = uint8_t(first);
+    const char* codes[2] = {a, b};
+    for (const char* s : codes) {
+        if (!s) continue;
+        int len = int(strlen(s));
+        v[n++] = uint8_t(len);
+        memcpy(v + n, s, size_t(len));
+        n += len;
+    }
+    add(0x01, v, n);
 }
 
 int checkVerifyPin(Step& st) { return checkPin("PIN", st.arg[0]); }
 
 int runVerifyPin(Cli& c, Step& st) {
-    const char* pin = st.arg[0];
-    int n = zovQMIDMSUIMVerifyPINReq(gReq, sizeof gReq, 1, uint8_t(strlen(pin)), reinterpret_cast<const uint8_t*>(pin));
-    int rc = c.s.request(ZOVQMI_SERVICE_DMS, gReq, n, &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    uint8_t left, unblockLeft;
-    rc = pinResult(c, "verify PIN", zovQMIDMSUIMVerifyPINResp(gM.bytes, gM.len, &r), r,
-                   zovQMIDMSUIMVerifyPINRespGetRetriesLeft, &left, &unblockLeft);
-    if (rc != kOk) return rc;
-    c.out.open("verify_pin");
-    c.out.flag("verified", nullptr, true);
-    retriesOut(c, left, unblockLeft);
-    c.out.close();
-    c.out.text("PIN verified (%u retries left, %u unblock retries left)\n", left, unblockLeft);
-    return kOk;
+    begin(kDms, 0x0028);
+    pinItem(-1, st.arg[0], nullptr);
+    return pinRequest(c, "verify PIN", "verify_pin", "verified", true, nullptr);
 }
 
 int runPinStatus(Cli& c, Step&) {
-    int rc = c.s.request(ZOVQMI_SERVICE_DMS, gReq, zovQMIDMSUIMGetPINStatusReq(gReq, sizeof gReq), &gM);
+    begin(kDms, 0x002B);
+    int rc = ask(c, kDms, "PIN status");
     if (rc != kOk) return rc;
-    QmiResult r = {};
-    if ((rc = CHECKED("PIN status", zovQMIDMSUIMGetPINStatusResp(gM.bytes, gM.len, &r))) != kOk) return rc;
     c.out.open("pin_status");
     for (int k = 1; k <= 2; ++k) {
-        uint8_t s = 0, left = 0, unblockLeft = 0;
-        int got = k == 1 ? zovQMIDMSUIMGetPINStatusRespGetPIN1Status(gM.bytes, gM.len, &s, &left, &unblockLeft)
-                         : zovQMIDMSUIMGetPINStatusRespGetPIN2Status(gM.bytes, gM.len, &s, &left, &unblockLeft);
-        if (got < 0) continue;
+        Item it = item(uint8_t(0x10 + k));
+        if (!it.has(0, 3)) continue;
         c.out.open(k == 1 ? "pin1" : "pin2");
-        c.out.jstr("status", pinStatusName(s));
-        c.out.jnum("retries_left", left);
-        c.out.jnum("unblock_retries_left", unblockLeft);
+        c.out.jstr("status", pinStatusName(it.u8(0)));
+        c.out.jnum("retries_left", it.u8(1));
+        c.out.jnum("unblock_retries_left", it.u8(2));
         c.out.close();
-        c.out.text("PIN%d: %s (%u retries left, %u unblock retries left)\n", k, pinStatusName(s), left, unblockLeft);
+        c.out.text("PIN%d: %s (%u retries left, %u unblock retries left)\n", k, pinStatusName(it.u8(0)), it.u8(1),
+                   it.u8(2));
     }
     c.out.close();
     return kOk;
@@ -434,22 +548,9 @@ int checkChangePin(Step& st) {
 }
 
 int runChangePin(Cli& c, Step& st) {
-    const char *old = st.arg[0], *pin = st.arg[1];
-    int n = zovQMIDMSUIMChangePINReq(gReq, sizeof gReq, 1, uint8_t(strlen(old)), reinterpret_cast<const uint8_t*>(old),
-                                     uint8_t(strlen(pin)), reinterpret_cast<const uint8_t*>(pin));
-    int rc = c.s.request(ZOVQMI_SERVICE_DMS, gReq, n, &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    uint8_t left, unblockLeft;
-    rc = pinResult(c, "change PIN", zovQMIDMSUIMChangePINResp(gM.bytes, gM.len, &r), r,
-                   zovQMIDMSUIMChangePINRespGetRetriesLeft, &left, &unblockLeft);
-    if (rc != kOk) return rc;
-    c.out.open("change_pin");
-    c.out.flag("changed", nullptr, true);
-    retriesOut(c, left, unblockLeft);
-    c.out.close();
-    c.out.text("PIN changed\n");
-    return kOk;
+    begin(kDms, 0x002A);
+    pinItem(-1, st.arg[0], st.arg[1]);
+    return pinRequest(c, "change PIN", "change_pin", "changed", true, "PIN changed");
 }
 
 int checkUnblockPin(Step& st) {
@@ -458,22 +559,9 @@ int checkUnblockPin(Step& st) {
 }
 
 int runUnblockPin(Cli& c, Step& st) {
-    const char *puk = st.arg[0], *pin = st.arg[1];
-    int n = zovQMIDMSUIMUnblockPINReq(gReq, sizeof gReq, 1, uint8_t(strlen(puk)), reinterpret_cast<const uint8_t*>(puk),
-                                      uint8_t(strlen(pin)), reinterpret_cast<const uint8_t*>(pin));
-    int rc = c.s.request(ZOVQMI_SERVICE_DMS, gReq, n, &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    uint8_t left, unblockLeft;
-    rc = pinResult(c, "unblock PIN", zovQMIDMSUIMUnblockPINResp(gM.bytes, gM.len, &r), r,
-                   zovQMIDMSUIMUnblockPINRespGetRetriesLeft, &left, &unblockLeft);
-    if (rc != kOk) return rc;
-    c.out.open("unblock_pin");
-    c.out.flag("unblocked", nullptr, true);
-    retriesOut(c, left, unblockLeft);
-    c.out.close();
-    c.out.text("PIN unblocked\n");
-    return kOk;
+    begin(kDms, 0x0029);
+    pinItem(-1, st.arg[0], st.arg[1]);
+    return pinRequest(c, "unblock PIN", "unblock_pin", "unblocked", true, "PIN unblocked");
 }
 
 int checkPinProtection(Step& st) {
@@ -484,226 +572,176 @@ int checkPinProtection(Step& st) {
 }
 
 int runPinProtection(Cli& c, Step& st) {
-    const char* pin = st.arg[1];
     bool on = st.n[0] != 0;
-    int n = zovQMIDMSUIMSetPINProtectionReq(gReq, sizeof gReq, 1, on ? 1 : 0, uint8_t(strlen(pin)),
-                                            reinterpret_cast<const uint8_t*>(pin));
-    int rc = c.s.request(ZOVQMI_SERVICE_DMS, gReq, n, &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    uint8_t left, unblockLeft;
-    rc = pinResult(c, "set PIN protection", zovQMIDMSUIMSetPINProtectionResp(gM.bytes, gM.len, &r), r,
-                   zovQMIDMSUIMSetPINProtectionRespGetRetriesLeft, &left, &unblockLeft);
-    if (rc != kOk) return rc;
-    c.out.open("pin_protection");
-    c.out.flag("enabled", nullptr, on);
-    retriesOut(c, left, unblockLeft);
-    c.out.close();
-    c.out.text("PIN protection %s\n", on ? "enabled" : "disabled");
-    return kOk;
-}
-
-int runIccid(Cli& c, Step&) {
-    char v[64];
-    int rc = textRequest(c, ZOVQMI_SERVICE_DMS, "ICCID", zovQMIDMSUIMGetICCIDReq, zovQMIDMSUIMGetICCIDResp, v, sizeof v);
-    if (rc == kOk) c.out.str("iccid", "ICCID", v);
-    return rc;
-}
-
-int runImsi(Cli& c, Step&) {
-    char v[64];
-    int rc = textRequest(c, ZOVQMI_SERVICE_DMS, "IMSI", zovQMIDMSUIMGetIMSIReq, zovQMIDMSUIMGetIMSIResp, v, sizeof v);
-    if (rc == kOk) c.out.str("imsi", "IMSI", v);
-    return rc;
+    begin(kDms, 0x0027);
+    pinItem(on ? 1 : 0, st.arg[1], nullptr);
+    return pinRequest(c, "set PIN protection", "pin_protection", "enabled", on,
+                      on ? "PIN protection enabled" : "PIN protection disabled");
 }
 
 // ===================================================================== NAS ==
 
 int runSignal(Cli& c, Step&) {
-    int rc = c.s.request(ZOVQMI_SERVICE_NAS, gReq, zovQMINASGetSignalStrengthReq(gReq, sizeof gReq), &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    uint8_t strength = 0, radio = 0;
-    if ((rc = CHECKED("signal strength", zovQMINASGetSignalStrengthResp(gM.bytes, gM.len, &r, &strength, &radio))) != kOk)
-        return rc;
+    const char* what = "signal strength";
+    begin(kNas, 0x0020);
+    Item it;
+    int rc = ask(c, kNas, what);
+    if (rc != kOk || (rc = need(c, what, 0x01, 2, &it)) != kOk) return rc;
+    int dbm = int8_t(it.u8(0));
     c.out.open("signal_strength");
-    c.out.jnum("dbm", int8_t(strength));
-    c.out.jstr("radio", radioName(radio));
+    c.out.jnum("dbm", dbm);
+    c.out.jstr("radio", radioName(it.u8(1)));
     c.out.close();
-    c.out.text("signal strength: %d dBm (%s)\n", int8_t(strength), radioName(radio));
+    c.out.text("signal strength: %d dBm (%s)\n", dbm, radioName(it.u8(1)));
     return kOk;
 }
 
-// A network record read by `get` into `rec` with its description in `desc`
-// (256 bytes); false when absent or malformed.
-bool networkRecord(int (*get)(const uint8_t*, int, NASNetworkRecord*), NASNetworkRecord* rec, char* desc) {
-    memset(rec, 0, sizeof *rec);
-    if (get(gM.bytes, gM.len, rec) < 0 || rec->descriptionLength > areaLen()) return false;
-    rec->description = reinterpret_cast<uint8_t*>(desc);
-    if (get(gM.bytes, gM.len, rec) < 0) return false;
-    desc[rec->descriptionLength] = 0;
-    return true;
-}
-
-int homeNetworkGet(const uint8_t* msg, int len, NASNetworkRecord* rec) {
-    QmiResult r;
-    return zovQMINASGetHomeNetworkResp(msg, len, &r, rec);
+// A network: MCC, MNC, then (at `descAt`) a length byte and the description.
+bool network(const Item& it, int off, int descAt, uint16_t* mcc, uint16_t* mnc, const char** desc, int* len) {
+    if (!it.has(off, descAt + 1)) return false;
+    *mcc = it.u16(off);
+    *mnc = it.u16(off + 2);
+    *len = it.u8(off + descAt);
+    *desc = it.at(off + descAt + 1);
+    return it.has(off + descAt + 1, *len);
 }
 
 int runServing(Cli& c, Step&) {
-    int rc = c.s.request(ZOVQMI_SERVICE_NAS, gReq, zovQMINASGetServingSystemReq(gReq, sizeof gReq), &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    NASServingSystem ss;
-    memset(&ss, 0, sizeof ss);
     const char* what = "serving system";
-    if ((rc = CHECKED(what, zovQMINASGetServingSystemResp(gM.bytes, gM.len, &r, &ss))) != kOk) return rc;
-    uint8_t radios[256];
-    if (ss.listCount > areaLen()) return bad(c, what, "radio list longer than the message");
-    ss.list = radios;
-    if (zovQMINASGetServingSystemResp(gM.bytes, gM.len, &r, &ss) < 0) return bad(c, what, "radio list unreadable");
-    NASNetworkRecord plmn;
-    char desc[256];
-    bool hasPlmn = networkRecord(zovQMINASGetServingSystemRespGetCurrentPLMN, &plmn, desc);
-    uint8_t roaming = 0;
-    bool hasRoaming = zovQMINASGetServingSystemRespGetRoamingIndicatorValue(gM.bytes, gM.len, &roaming) >= 0;
+    begin(kNas, 0x0024);
+    Item it;
+    int rc = ask(c, kNas, what);
+    if (rc != kOk || (rc = need(c, what, 0x01, 5, &it)) != kOk) return rc;
+    int count = it.u8(4);
+    if (!it.has(5, count)) return bad(c, what, "radio list longer than its item");
+    uint16_t mcc = 0, mnc = 0;
+    const char* desc = "";
+    int len = 0;
+    bool hasPlmn = network(item(0x12), 0, 4, &mcc, &mnc, &desc, &len);
+    Item roaming = item(0x10);
 
     c.out.open("serving_system");
-    c.out.str("registration", "registration", registrationName(ss.state[0]));
-    c.out.flag("cs_attached", "CS attached", ss.state[1] == 1);
-    c.out.flag("ps_attached", "PS attached", ss.state[2] == 1);
+    c.out.str("registration", "registration", registrationName(it.u8(0)));
+    c.out.flag("cs_attached", "CS attached", it.u8(1) == 1);
+    c.out.flag("ps_attached", "PS attached", it.u8(2) == 1);
     c.out.openArray("radios");
-    c.out.text("radios: %s", ss.listCount ? "" : "none");
-    for (int i = 0; i < ss.listCount; ++i) {
-        c.out.jstr(nullptr, radioName(radios[i]));
-        c.out.text("%s%s", i ? ", " : "", radioName(radios[i]));
+    c.out.text("radios: %s", count ? "" : "none");
+    for (int i = 0; i < count; ++i) {
+        c.out.jstr(nullptr, radioName(it.u8(5 + i)));
+        c.out.text("%s%s", i ? ", " : "", radioName(it.u8(5 + i)));
     }
     c.out.text("\n");
     c.out.close();
     if (hasPlmn) {
-        c.out.jnum("mcc", le16(&plmn.firstCode));
-        c.out.jnum("mnc", le16(&plmn.secondCode));
-        c.out.jstr("network", desc);
-        c.out.text("network: %u-%u %s\n", le16(&plmn.firstCode), le16(&plmn.secondCode), desc);
+        c.out.jnum("mcc", mcc);
+        c.out.jnum("mnc", mnc);
+        c.out.jstr("network", desc, len);
+        c.out.text("network: %u-%u %.*s\n", mcc, mnc, len, desc);
     } else {
         c.out.text("network: none\n");
     }
-    if (hasRoaming) c.out.flag("roaming", "roaming", roaming == 0);
+    if (roaming.has(0, 1)) c.out.flag("roaming", "roaming", roaming.u8(0) == 0);
     c.out.close();
     return kOk;
 }
 
 int runHomeNetwork(Cli& c, Step&) {
-    int rc = c.s.request(ZOVQMI_SERVICE_NAS, gReq, zovQMINASGetHomeNetworkReq(gReq, sizeof gReq), &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    NASNetworkRecord rec;
-    memset(&rec, 0, sizeof rec);
     const char* what = "home network";
-    if ((rc = CHECKED(what, zovQMINASGetHomeNetworkResp(gM.bytes, gM.len, &r, &rec))) != kOk) return rc;
-    char desc[256];
-    if (!networkRecord(homeNetworkGet, &rec, desc)) return bad(c, what, "network record unreadable");
+    begin(kNas, 0x0025);
+    int rc = ask(c, kNas, what);
+    if (rc != kOk) return rc;
+    uint16_t mcc, mnc;
+    const char* desc;
+    int len;
+    if (!network(item(0x01), 0, 4, &mcc, &mnc, &desc, &len)) return bad(c, what, "network item missing or short");
     c.out.open("home_network");
-    c.out.jnum("mcc", le16(&rec.firstCode));
-    c.out.jnum("mnc", le16(&rec.secondCode));
-    c.out.jstr("name", desc);
+    c.out.jnum("mcc", mcc);
+    c.out.jnum("mnc", mnc);
+    c.out.jstr("name", desc, len);
     c.out.close();
-    c.out.text("home network: %03u-%02u %s\n", le16(&rec.firstCode), le16(&rec.secondCode), desc);
+    c.out.text("home network: %03u-%02u %.*s\n", mcc, mnc, len, desc);
     return kOk;
 }
 
-// Networks one scan reports at most (a scan lists what is in range: a few
-// operators, each on a few radios).
-constexpr int kMaxNetworks = 40;
-
 int runScan(Cli& c, Step&) {
-    int rc = c.s.request(ZOVQMI_SERVICE_NAS, gReq, zovQMINASPerformNetworkScanReq(gReq, sizeof gReq), &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
     const char* what = "network scan";
-    if ((rc = CHECKED(what, zovQMINASPerformNetworkScanResp(gM.bytes, gM.len, &r))) != kOk) return rc;
-    static NASNetworkRecord recs[kMaxNetworks];
-    static char descs[kMaxNetworks][256];
-    uint16_t count = 0;
-    if (zovQMINASPerformNetworkScanRespGet3GPPNetworkInformation(gM.bytes, gM.len, &count, nullptr) < 0) count = 0;
-    if (count > kMaxNetworks || count * 6 > areaLen()) return bad(c, what, "more networks than the message holds");
+    begin(kNas, 0x0021);
+    int rc = ask(c, kNas, what);
+    if (rc != kOk) return rc;
+    Item it = item(0x10);
+    int count = it.u16(0);
+    // Each network: MCC, MNC, status, a length byte and the description.
+    int off = 2;
     for (int i = 0; i < count; ++i) {
-        memset(&recs[i], 0, sizeof recs[i]);
-        recs[i].description = reinterpret_cast<uint8_t*>(descs[i]);
+        if (!it.has(off, 6) || !it.has(off + 6, it.u8(off + 5))) return bad(c, what, "network list cut short");
+        off += 6 + it.u8(off + 5);
     }
-    if (count && zovQMINASPerformNetworkScanRespGet3GPPNetworkInformation(gM.bytes, gM.len, &count, recs) < 0)
-        return bad(c, what, "network list unreadable");
     c.out.openArray("networks");
-    c.out.text("networks: %u\n", count);
+    c.out.text("networks: %d\n", count);
+    off = 2;
     for (int i = 0; i < count; ++i) {
-        const NASNetworkRecord& n = recs[i];
+        uint16_t mcc = it.u16(off), mnc = it.u16(off + 2);
+        int status = it.u8(off + 4), len = it.u8(off + 5);
         c.out.open(nullptr);
-        c.out.jnum("mcc", le16(&n.firstCode));
-        c.out.jnum("mnc", le16(&n.secondCode));
-        c.out.jnum("status", n.status);
-        c.out.jstr("name", descs[i], n.descriptionLength);
+        c.out.jnum("mcc", mcc);
+        c.out.jnum("mnc", mnc);
+        c.out.jnum("status", status);
+        c.out.jstr("name", it.at(off + 6), len);
         c.out.close();
-        c.out.text("  %03u-%02u  status 0x%02X  %.*s\n", le16(&n.firstCode), le16(&n.secondCode), n.status,
-                   n.descriptionLength, descs[i]);
+        c.out.text("  %03u-%02u  status 0x%02X  %.*s\n", mcc, mnc, status, len, it.at(off + 6));
+        off += 6 + len;
     }
     c.out.close();
     return kOk;
 }
 
 int runRfBands(Cli& c, Step&) {
-    int rc = c.s.request(ZOVQMI_SERVICE_NAS, gReq, zovQMINASGetRFBandInfoReq(gReq, sizeof gReq), &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    uint8_t count = 0;
     const char* what = "RF band information";
-    if ((rc = CHECKED(what, zovQMINASGetRFBandInfoResp(gM.bytes, gM.len, &r, &count, nullptr))) != kOk) return rc;
-    NASRFBandRecord bands[255];
-    if (count * 5 > areaLen()) return bad(c, what, "more bands than the message holds");
-    if (zovQMINASGetRFBandInfoResp(gM.bytes, gM.len, &r, &count, bands) < 0) return bad(c, what, "band list unreadable");
+    begin(kNas, 0x0031);
+    Item it;
+    int rc = ask(c, kNas, what);
+    if (rc != kOk || (rc = need(c, what, 0x01, 1, &it)) != kOk) return rc;
+    int count = it.u8(0);
+    if (!it.has(1, count * 5)) return bad(c, what, "band list longer than its item");
     c.out.openArray("rf_bands");
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0, off = 1; i < count; ++i, off += 5) {
         c.out.open(nullptr);
-        c.out.jstr("radio", radioName(bands[i].first));
-        c.out.jnum("band_class", le16(&bands[i].second));
-        c.out.jnum("channel", le16(&bands[i].third));
+        c.out.jstr("radio", radioName(it.u8(off)));
+        c.out.jnum("band_class", it.u16(off + 1));
+        c.out.jnum("channel", it.u16(off + 3));
         c.out.close();
-        c.out.text("radio: %s, band class %u, channel %u\n", radioName(bands[i].first), le16(&bands[i].second),
-                   le16(&bands[i].third));
+        c.out.text("radio: %s, band class %u, channel %u\n", radioName(it.u8(off)), it.u16(off + 1), it.u16(off + 3));
     }
     c.out.close();
     return kOk;
 }
 
+void modeList(Cli& c, const char* key, const char* label, uint16_t modes) {
+    c.out.openArray(key);
+    c.out.text("%s:", label);
+    for (const ModeBit& m : kModeBits)
+        if (modes & m.bit) {
+            c.out.jstr(nullptr, m.name);
+            c.out.text(" %s", m.name);
+        }
+    c.out.text("\n");
+    c.out.close();
+}
+
 int runSystemSelection(Cli& c, Step&) {
-    int rc = c.s.request(ZOVQMI_SERVICE_NAS, gReq, zovQMINASGetSystemSelectionPreferenceReq(gReq, sizeof gReq), &gM);
+    begin(kNas, 0x0034);
+    int rc = ask(c, kNas, "system selection");
     if (rc != kOk) return rc;
-    QmiResult r = {};
-    if ((rc = CHECKED("system selection", zovQMINASGetSystemSelectionPreferenceResp(gM.bytes, gM.len, &r))) != kOk)
-        return rc;
     c.out.open("system_selection");
-    uint16_t modes = 0, roam = 0;
-    uint64_t bands = 0;
-    uint8_t emergency = 0;
-    if (zovQMINASGetSystemSelectionPreferenceRespGetModePreference(gM.bytes, gM.len, &modes) >= 0) {
-        c.out.openArray("modes");
-        c.out.text("network modes:");
-        for (const ModeBit& m : kModeBits)
-            if (modes & m.bit) {
-                c.out.jstr(nullptr, m.name);
-                c.out.text(" %s", m.name);
-            }
-        c.out.text("\n");
-        c.out.close();
-    }
-    char hex[24];
-    if (zovQMINASGetSystemSelectionPreferenceRespGetBandPreference(gM.bytes, gM.len, &bands) >= 0) {
-        snprintf(hex, sizeof hex, "0x%016llX", (unsigned long long)bands);
+    Item modes = item(0x11), bands = item(0x12), roam = item(0x14), emergency = item(0x10);
+    if (modes.has(0, 2)) modeList(c, "modes", "network modes", modes.u16(0));
+    if (bands.has(0, 8)) {
+        char hex[24];
+        snprintf(hex, sizeof hex, "0x%016llX", (unsigned long long)bands.u64(0));
         c.out.str("band_preference", "band preference", hex);
     }
-    if (zovQMINASGetSystemSelectionPreferenceRespGetRoamingPreference(gM.bytes, gM.len, &roam) >= 0)
-        c.out.num("roaming_preference", "roaming preference", roam);
-    if (zovQMINASGetSystemSelectionPreferenceRespGetEmergencyMode(gM.bytes, gM.len, &emergency) >= 0)
-        c.out.flag("emergency_mode", "emergency mode", emergency != 0);
+    if (roam.has(0, 2)) c.out.num("roaming_preference", "roaming preference", roam.u16(0));
+    if (emergency.has(0, 1)) c.out.flag("emergency_mode", "emergency mode", emergency.u8(0) != 0);
     c.out.close();
     return kOk;
 }
@@ -733,20 +771,11 @@ int checkNetworkModes(Step& st) {
 }
 
 int runSetNetworkModes(Cli& c, Step& st) {
-    zovQMINASSetSystemSelectionPreferenceReq(gReq, sizeof gReq);
-    int n = zovQMINASSetSystemSelectionPreferenceReqAddModePreference(gReq, sizeof gReq, uint16_t(st.n[0]));
-    int rc = simple(c, ZOVQMI_SERVICE_NAS, "set network modes", n, zovQMINASSetSystemSelectionPreferenceResp);
-    if (rc != kOk) return rc;
-    c.out.openArray("network_modes");
-    c.out.text("network modes set:");
-    for (const ModeBit& m : kModeBits)
-        if (st.n[0] & m.bit) {
-            c.out.jstr(nullptr, m.name);
-            c.out.text(" %s", m.name);
-        }
-    c.out.text("\n");
-    c.out.close();
-    return kOk;
+    begin(kNas, 0x0033);
+    add16(0x11, uint32_t(st.n[0]));
+    int rc = ask(c, kNas, "set network modes");
+    if (rc == kOk) modeList(c, "network_modes", "network modes set", uint16_t(st.n[0]));
+    return rc;
 }
 
 int checkRegister(Step& st) {
@@ -771,13 +800,8 @@ int checkRegister(Step& st) {
     st.n[2] = atoi(mnc);
     st.n[3] = 8;
     if (slash) {
-        static const struct {
-            const char* name;
-            uint8_t radio;
-        } radios[] = {{"gsm", 4}, {"umts", 5}, {"lte", 8}};
-        st.n[3] = -1;
-        for (auto& r : radios)
-            if (strcmp(slash + 1, r.name) == 0) st.n[3] = r.radio;
+        st.n[3] = strcmp(slash + 1, "gsm") == 0 ? 4 : strcmp(slash + 1, "umts") == 0 ? 5
+                : strcmp(slash + 1, "lte") == 0 ? 8 : -1;
         if (st.n[3] < 0) return usageError("bad radio in --nas-register %s (gsm, umts or lte)", s);
     }
     return kExitOk;
@@ -785,34 +809,27 @@ int checkRegister(Step& st) {
 
 int runRegister(Cli& c, Step& st) {
     bool manual = st.n[0] != 0;
-    int n = zovQMINASInitiateNetworkRegisterReq(gReq, sizeof gReq, manual ? 2 : 1);
+    begin(kNas, 0x0022);
+    add8(0x01, manual ? 2 : 1);
     if (manual) {
-        NASManualNetworkRegister info;
-        uint8_t* b = reinterpret_cast<uint8_t*>(&info);
-        b[0] = uint8_t(st.n[1]), b[1] = uint8_t(st.n[1] >> 8);
-        b[2] = uint8_t(st.n[2]), b[3] = uint8_t(st.n[2] >> 8);
-        b[4] = uint8_t(st.n[3]);
-        n = zovQMINASInitiateNetworkRegisterReqAddManualNetworkRegisterInformation(gReq, sizeof gReq, &info);
+        uint8_t v[5] = {uint8_t(st.n[1]), uint8_t(st.n[1] >> 8), uint8_t(st.n[2]), uint8_t(st.n[2] >> 8),
+                        uint8_t(st.n[3])};
+        add(0x10, v, 5);
     }
-    int rc = simple(c, ZOVQMI_SERVICE_NAS, "network register", n, zovQMINASInitiateNetworkRegisterResp);
+    int rc = ask(c, kNas, "network register");
     if (rc != kOk) return rc;
-    if (manual) {
-        char net[16];
-        snprintf(net, sizeof net, "%03lld-%02lld", st.n[1], st.n[2]);
-        c.out.jstr("registered", net);
-        c.out.text("registration requested: %s\n", net);
-    } else {
-        c.out.jstr("registered", "auto");
-        c.out.text("registration requested: automatic\n");
-    }
+    char net[16] = "automatic";
+    if (manual) snprintf(net, sizeof net, "%03lld-%02lld", st.n[1], st.n[2]);
+    c.out.jstr("registered", manual ? net : "auto");
+    c.out.text("registration requested: %s\n", net);
     return kOk;
 }
 
 int runAttach(Cli& c, Step& st) {
     bool attach = st.action->name[6] == 'a';  // --nas-attach / --nas-detach
-    zovQMINASInitiateAttachReq(gReq, sizeof gReq);
-    int n = zovQMINASInitiateAttachReqAddPSAttachAction(gReq, sizeof gReq, attach ? 1 : 2);
-    int rc = simple(c, ZOVQMI_SERVICE_NAS, attach ? "attach" : "detach", n, zovQMINASInitiateAttachResp);
+    begin(kNas, 0x0023);
+    add8(0x10, attach ? 1 : 2);
+    int rc = ask(c, kNas, attach ? "attach" : "detach");
     if (rc != kOk) return rc;
     c.out.jstr("ps", attach ? "attach requested" : "detach requested");
     c.out.text("packet domain %s requested\n", attach ? "attach" : "detach");
@@ -829,47 +846,34 @@ int checkStart(Step& st) {
 int runStart(Cli& c, Step& st) {
     const Settings& s = c.set;
     const char* apn = st.arg[0];
-    const char* what = "start network";
+    int rc;
     if (s.ipFamily) {
-        int rc = simple(c, ZOVQMI_SERVICE_WDS, "IP family preference",
-                        zovQMIWDSSetClientIPFamilyPrefReq(gReq, sizeof gReq, uint8_t(s.ipFamily)),
-                        zovQMIWDSSetClientIPFamilyPrefResp);
-        if (rc != kOk) return rc;
+        begin(kWds, 0x004D);
+        add8(0x01, uint32_t(s.ipFamily));
+        if ((rc = ask(c, kWds, "IP family preference")) != kOk) return rc;
     }
-    int n = zovQMIWDSStartNetworkInterfaceReq(gReq, sizeof gReq);
-    auto text = [](const char* v) { return reinterpret_cast<const uint8_t*>(v); };
-    if (*apn) n = zovQMIWDSStartNetworkInterfaceReqAddContextAPNName(gReq, sizeof gReq, uint16_t(strlen(apn)), text(apn));
-    if (n >= 0 && s.auth >= 0)
-        n = zovQMIWDSStartNetworkInterfaceReqAddAuthenticationPreference(gReq, sizeof gReq, uint8_t(s.auth));
-    if (n >= 0 && s.user)
-        n = zovQMIWDSStartNetworkInterfaceReqAddUsername(gReq, sizeof gReq, uint16_t(strlen(s.user)), text(s.user));
-    if (n >= 0 && s.password)
-        n = zovQMIWDSStartNetworkInterfaceReqAddPassword(gReq, sizeof gReq, uint16_t(strlen(s.password)),
-                                                         text(s.password));
-    if (n >= 0 && s.profile >= 0)
-        n = zovQMIWDSStartNetworkInterfaceReqAdd3GPPConfiguredProfileIdentifier(gReq, sizeof gReq, uint8_t(s.profile));
-    if (n >= 0 && s.ipFamily)
-        n = zovQMIWDSStartNetworkInterfaceReqAddIPFamilyPreference(gReq, sizeof gReq, uint8_t(s.ipFamily));
-    int rc = c.s.request(ZOVQMI_SERVICE_WDS, gReq, n, &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    uint32_t handle = 0;
-    int parsed = zovQMIWDSStartNetworkInterfaceResp(gM.bytes, gM.len, &r, &handle);
+    begin(kWds, 0x0020);
+    if (*apn) addText(0x14, apn);
+    if (s.auth >= 0) add8(0x16, uint32_t(s.auth));
+    if (s.user) addText(0x17, s.user);
+    if (s.password) addText(0x18, s.password);
+    if (s.ipFamily) add8(0x19, uint32_t(s.ipFamily));
+    if (s.profile >= 0) add8(0x31, uint32_t(s.profile));
+    const char* what = "start network";
+    if ((rc = send(c, kWds, what)) != kOk) return rc;
     char w[96];
-    uint16_t reason = 0, type = 0, verbose = 0;
+    Item reason = item(0x10), verbose = item(0x11);
     int len = snprintf(w, sizeof w, "%s", what);
-    if (le16(&r) != 0) {
-        bool hasReason = zovQMIWDSStartNetworkInterfaceRespGetCallEndReason(gM.bytes, gM.len, &reason) >= 0;
-        bool hasVerbose = zovQMIWDSStartNetworkInterfaceRespGetVerboseCallEndReason(gM.bytes, gM.len, &type, &verbose) >= 0;
-        if (hasReason && hasVerbose)
-            snprintf(w + len, sizeof w - size_t(len), " (call end reason %u, verbose %u/%u)", reason, type, verbose);
-        else if (hasReason)
-            snprintf(w + len, sizeof w - size_t(len), " (call end reason %u)", reason);
-    }
-    if ((rc = c.s.check(w, parsed, r)) != kOk) return rc;
+    if (verbose.has(0, 4) && reason.has(0, 2))
+        snprintf(w + len, sizeof w - size_t(len), " (call end reason %u, verbose %u/%u)", reason.u16(0), verbose.u16(0),
+                 verbose.u16(2));
+    else if (reason.has(0, 2))
+        snprintf(w + len, sizeof w - size_t(len), " (call end reason %u)", reason.u16(0));
+    Item handle;
+    if ((rc = result(c, w)) != kOk || (rc = need(c, what, 0x01, 4, &handle)) != kOk) return rc;
     uint8_t id = 0;
-    c.s.client(ZOVQMI_SERVICE_WDS, &id);
-    c.out.num("packet_data_handle", "packet data handle", handle);
+    c.s.client(kWds, &id);
+    c.out.num("packet_data_handle", "packet data handle", handle.u32(0));
     c.out.text("WDS client id: %u\n", id);
     return kOk;
 }
@@ -878,8 +882,9 @@ int checkStop(Step& st) { return checkIndexArg(st, 0, 0, 0xFFFFFFFFll, "handle")
 
 int runStop(Cli& c, Step& st) {
     uint32_t h = uint32_t(st.n[0]);
-    int rc = simple(c, ZOVQMI_SERVICE_WDS, "stop network", zovQMIWDSStopNetworkInterfaceReq(gReq, sizeof gReq, h),
-                    zovQMIWDSStopNetworkInterfaceResp);
+    begin(kWds, 0x0021);
+    add32(0x01, h);
+    int rc = ask(c, kWds, "stop network");
     if (rc != kOk) return rc;
     c.out.jnum("stopped", h);
     c.out.text("network stopped (handle %u)\n", h);
@@ -887,126 +892,102 @@ int runStop(Cli& c, Step& st) {
 }
 
 int runPacketStatus(Cli& c, Step&) {
-    int rc = c.s.request(ZOVQMI_SERVICE_WDS, gReq, zovQMIWDSGetPktSrvcStatusReq(gReq, sizeof gReq), &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    uint8_t status = 0;
-    if ((rc = CHECKED("packet status", zovQMIWDSGetPktSrvcStatusResp(gM.bytes, gM.len, &r, &status))) != kOk) return rc;
-    c.out.str("packet_status", "connection status", packetStatusName(status));
+    const char* what = "packet status";
+    begin(kWds, 0x0022);
+    Item it;
+    int rc = ask(c, kWds, what);
+    if (rc != kOk || (rc = need(c, what, 0x01, 1, &it)) != kOk) return rc;
+    c.out.str("packet_status", "connection status", packetStatusName(it.u8(0)));
     return kOk;
 }
 
 int runStatistics(Cli& c, Step&) {
-    int rc = c.s.request(ZOVQMI_SERVICE_WDS, gReq, zovQMIWDSGetPktStatisticsReq(gReq, sizeof gReq, 0xFF), &gM);
+    begin(kWds, 0x0024);
+    add32(0x01, 0xFF);
+    int rc = ask(c, kWds, "statistics");
     if (rc != kOk) return rc;
-    QmiResult r = {};
-    if ((rc = CHECKED("statistics", zovQMIWDSGetPktStatisticsResp(gM.bytes, gM.len, &r))) != kOk) return rc;
-    using Get32 = int (*)(const uint8_t*, int, uint32_t*);
     static const struct {
+        uint8_t type, size;
         const char* key;
         const char* label;
-        Get32 get;
     } counters[] = {
-        {"tx_packets", "TX packets", zovQMIWDSGetPktStatisticsRespGetTxPacketsOK},
-        {"rx_packets", "RX packets", zovQMIWDSGetPktStatisticsRespGetRxPacketsOK},
-        {"tx_errors", "TX errors", zovQMIWDSGetPktStatisticsRespGetTxPacketsErrors},
-        {"rx_errors", "RX errors", zovQMIWDSGetPktStatisticsRespGetRxPacketsErrors},
-        {"tx_overflows", "TX overflows", zovQMIWDSGetPktStatisticsRespGetTxOverflows},
-        {"rx_overflows", "RX overflows", zovQMIWDSGetPktStatisticsRespGetRxOverflows},
+        {0x10, 4, "tx_packets", "TX packets"},     {0x11, 4, "rx_packets", "RX packets"},
+        {0x12, 4, "tx_errors", "TX errors"},       {0x13, 4, "rx_errors", "RX errors"},
+        {0x14, 4, "tx_overflows", "TX overflows"}, {0x15, 4, "rx_overflows", "RX overflows"},
+        {0x19, 8, "tx_bytes", "TX bytes"},         {0x1A, 8, "rx_bytes", "RX bytes"},
     };
     c.out.open("statistics");
     for (const auto& k : counters) {
-        uint32_t v;
-        if (k.get(gM.bytes, gM.len, &v) >= 0) c.out.num(k.key, k.label, v);
+        Item it = item(k.type);
+        if (it.has(0, k.size)) c.out.num(k.key, k.label, k.size == 4 ? (long long)it.u32(0) : (long long)it.u64(0));
     }
-    uint64_t b;
-    if (zovQMIWDSGetPktStatisticsRespGetTxBytesOK(gM.bytes, gM.len, &b) >= 0) c.out.num("tx_bytes", "TX bytes", (long long)b);
-    if (zovQMIWDSGetPktStatisticsRespGetRxBytesOK(gM.bytes, gM.len, &b) >= 0) c.out.num("rx_bytes", "RX bytes", (long long)b);
     c.out.close();
     return kOk;
-}
-
-void duration(Cli& c, const char* key, const char* label, uint64_t ms) {
-    c.out.jnum(key, (long long)ms);
-    uint64_t s = ms / 1000;
-    c.out.text("%s: %llu:%02llu:%02llu.%03llu\n", label, (unsigned long long)(s / 3600),
-               (unsigned long long)(s / 60 % 60), (unsigned long long)(s % 60), (unsigned long long)(ms % 1000));
 }
 
 int runCallDuration(Cli& c, Step&) {
-    int rc = c.s.request(ZOVQMI_SERVICE_WDS, gReq, zovQMIWDSGetCallDurationReq(gReq, sizeof gReq), &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    uint64_t d = 0, v;
-    if ((rc = CHECKED("call duration", zovQMIWDSGetCallDurationResp(gM.bytes, gM.len, &r, &d))) != kOk) return rc;
+    const char* what = "call duration";
+    begin(kWds, 0x0035);
+    Item it;
+    int rc = ask(c, kWds, what);
+    if (rc != kOk || (rc = need(c, what, 0x01, 8, &it)) != kOk) return rc;
+    static const struct {
+        uint8_t type;
+        const char* key;
+        const char* label;
+    } durations[] = {{0x01, "duration_ms", "call duration"},
+                     {0x11, "active_ms", "active"},
+                     {0x10, "last_call_ms", "last call"},
+                     {0x12, "last_call_active_ms", "last call active"}};
     c.out.open("call_duration");
-    duration(c, "duration_ms", "call duration", d);
-    if (zovQMIWDSGetCallDurationRespGetActiveDuration(gM.bytes, gM.len, &v) >= 0)
-        duration(c, "active_ms", "active", v);
-    if (zovQMIWDSGetCallDurationRespGetLastCallDuration(gM.bytes, gM.len, &v) >= 0)
-        duration(c, "last_call_ms", "last call", v);
-    if (zovQMIWDSGetCallDurationRespGetLastCallActiveDuration(gM.bytes, gM.len, &v) >= 0)
-        duration(c, "last_call_active_ms", "last call active", v);
+    for (const auto& d : durations) {
+        Item v = item(d.type);
+        if (!v.has(0, 8)) continue;
+        unsigned long long ms = v.u64(0), s = ms / 1000;
+        c.out.jnum(d.key, (long long)ms);
+        c.out.text("%s: %llu:%02llu:%02llu.%03llu\n", d.label, s / 3600, s / 60 % 60, s % 60, ms % 1000);
+    }
     c.out.close();
     return kOk;
 }
 
-// A profile text item (the profile getters take the message id).
-bool profileText(uint16_t id, int (*get)(const uint8_t*, int, uint16_t, uint16_t*, uint8_t*), char* out, int cap) {
-    uint16_t len = 0;
-    out[0] = 0;
-    if (get(gM.bytes, gM.len, id, &len, nullptr) < 0 || len >= cap || len > areaLen()) return false;
-    if (len && get(gM.bytes, gM.len, id, &len, reinterpret_cast<uint8_t*>(out)) < 0) return false;
-    out[len] = 0;
-    return true;
-}
-
 int runRuntime(Cli& c, Step&) {
-    int rc = c.s.request(ZOVQMI_SERVICE_WDS, gReq, zovQMIWDSGetRuntimeSettingsReq(gReq, sizeof gReq), &gM);
+    begin(kWds, 0x002D);
+    add32(0x10, 0xFFFF);  // every setting the modem has
+    int rc = ask(c, kWds, "runtime settings");
     if (rc != kOk) return rc;
-    QmiResult r = {};
-    if ((rc = CHECKED("runtime settings", zovQMIWDSGetRuntimeSettingsResp(gM.bytes, gM.len, &r))) != kOk) return rc;
-    const uint16_t id = 0x002D;
-    char name[128], apn[128];
-    profileText(id, zovQMIWDSProfileRespGetProfileName, name, sizeof name);
-    profileText(id, zovQMIWDSProfileRespGetAPNName, apn, sizeof apn);
-    uint32_t addr = 0, gw = 0, mask = 0, dns1 = 0, dns2 = 0, mtu = 0;
-    zovQMIWDSProfileRespGetIPv4AddressPreference(gM.bytes, gM.len, id, &addr);
-    zovQMIWDSProfileRespGetPrimaryDNSIPv4AddressPreference(gM.bytes, gM.len, id, &dns1);
-    zovQMIWDSProfileRespGetSecondaryDNSIPv4AddressPreference(gM.bytes, gM.len, id, &dns2);
-    zovQMIWDSGetRuntimeSettingsRespGetIPv4GatewayAddress(gM.bytes, gM.len, &gw);
-    zovQMIWDSGetRuntimeSettingsRespGetIPv4SubnetMask(gM.bytes, gM.len, &mask);
-    zovQMIWDSGetRuntimeSettingsRespGetMTU(gM.bytes, gM.len, &mtu);
-    uint8_t type = 0, index = 0;
-    bool hasProfile = zovQMIWDSGetRuntimeSettingsRespGetProfileIdentifier(gM.bytes, gM.len, &type, &index) >= 0;
-    uint8_t v6[16], prefix = 0;
-    bool hasV6 = zovQMIWDSGetRuntimeSettingsRespGetIPv6Address(gM.bytes, gM.len, v6, &prefix) >= 0;
-
-    char a[20], g[20], m[20], d1[20], d2[20], a6[48] = "";
-    ipv4Text(addr, a, sizeof a);
-    ipv4Text(gw, g, sizeof g);
-    ipv4Text(mask, m, sizeof m);
-    ipv4Text(dns1, d1, sizeof d1);
-    ipv4Text(dns2, d2, sizeof d2);
-    if (hasV6) inet_ntop(AF_INET6, v6, a6, sizeof a6);
+    char name[128], apn[128], a6[48] = "";
+    text(0x10, name, sizeof name);
+    text(0x14, apn, sizeof apn);
+    Item profile = item(0x1F), v6 = item(0x25);
+    static const struct {
+        uint8_t type;
+        const char* key;
+        const char* label;
+    } addresses[] = {{0x1E, "ipv4", "IPv4 address"}, {0x20, "gateway", "gateway"}, {0x21, "subnet_mask", "subnet mask"}};
     c.out.open("runtime_settings");
-    if (hasProfile) c.out.jnum("profile", index);
+    if (profile.has(0, 2)) c.out.jnum("profile", profile.u8(1));
     c.out.jstr("profile_name", name);
-    c.out.text("profile: %d (%s)\n", hasProfile ? index : -1, name);
+    c.out.text("profile: %d (%s)\n", profile.has(0, 2) ? profile.u8(1) : -1, name);
     c.out.str("apn", "APN", apn);
-    c.out.str("ipv4", "IPv4 address", a);
-    c.out.str("gateway", "gateway", g);
-    c.out.str("subnet_mask", "subnet mask", m);
-    c.out.openArray("dns");
-    c.out.jstr(nullptr, d1);
-    c.out.jstr(nullptr, d2);
-    c.out.close();
-    c.out.text("DNS: %s, %s\n", d1, d2);
-    if (hasV6) {
-        c.out.str("ipv6", "IPv6 address", a6);
-        c.out.num("ipv6_prefix_length", "IPv6 prefix length", prefix);
+    char t[2][20];
+    for (const auto& a : addresses) {
+        ipv4Text(item(a.type).u32(0), t[0], sizeof t[0]);
+        c.out.str(a.key, a.label, t[0]);
     }
-    c.out.num("mtu", "MTU", mtu);
+    ipv4Text(item(0x15).u32(0), t[0], sizeof t[0]);
+    ipv4Text(item(0x16).u32(0), t[1], sizeof t[1]);
+    c.out.openArray("dns");
+    c.out.jstr(nullptr, t[0]);
+    c.out.jstr(nullptr, t[1]);
+    c.out.close();
+    c.out.text("DNS: %s, %s\n", t[0], t[1]);
+    if (v6.has(0, 17)) {
+        inet_ntop(AF_INET6, v6.p, a6, sizeof a6);
+        c.out.str("ipv6", "IPv6 address", a6);
+        c.out.num("ipv6_prefix_length", "IPv6 prefix length", v6.u8(16));
+    }
+    c.out.num("mtu", "MTU", item(0x29).u32(0));
     c.out.close();
     return kOk;
 }
@@ -1015,98 +996,95 @@ int runRuntime(Cli& c, Step&) {
 constexpr int kMaxProfiles = 32;
 
 int runProfiles(Cli& c, Step&) {
-    int rc = c.s.request(ZOVQMI_SERVICE_WDS, gReq, zovQMIWDSGetProfileListReq(gReq, sizeof gReq), &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    uint8_t count = 0;
     const char* what = "profile list";
-    if ((rc = CHECKED(what, zovQMIWDSGetProfileListResp(gM.bytes, gM.len, &r, &count, nullptr))) != kOk) return rc;
-    static WDSProfileListEntry list[kMaxProfiles];
-    static char names[kMaxProfiles][256], apns[kMaxProfiles][128];
-    if (count > kMaxProfiles || count * 3 > areaLen()) return bad(c, what, "more profiles than the message holds");
-    for (int i = 0; i < count; ++i) {
-        memset(&list[i], 0, sizeof list[i]);
-        list[i].name = reinterpret_cast<uint8_t*>(names[i]);
+    begin(kWds, 0x002A);
+    Item it;
+    int rc = ask(c, kWds, what);
+    if (rc != kOk || (rc = need(c, what, 0x01, 1, &it)) != kOk) return rc;
+    int count = it.u8(0);
+    if (count > kMaxProfiles) return bad(c, what, "too many profiles");
+    static struct {
+        uint8_t type, index;
+        char name[256], apn[128];
+    } list[kMaxProfiles];
+    for (int i = 0, off = 1; i < count; ++i) {
+        if (!it.has(off, 3) || !it.has(off + 3, it.u8(off + 2))) return bad(c, what, "profile list cut short");
+        list[i].type = it.u8(off);
+        list[i].index = it.u8(off + 1);
+        int len = it.u8(off + 2);
+        memcpy(list[i].name, it.at(off + 3), size_t(len));
+        list[i].name[len] = 0;
+        off += 3 + len;
     }
-    if (count && zovQMIWDSGetProfileListResp(gM.bytes, gM.len, &r, &count, list) < 0)
-        return bad(c, what, "profile list unreadable");
     for (int i = 0; i < count; ++i) {
-        names[i][list[i].nameLength] = 0;
-        apns[i][0] = 0;
-        int n = zovQMIWDSGetProfileSettingsReq(gReq, sizeof gReq, list[i].profileType, list[i].profileIndex);
-        if ((rc = c.s.request(ZOVQMI_SERVICE_WDS, gReq, n, &gM)) != kOk) return rc;
-        if (zovQMIWDSGetProfileSettingsResp(gM.bytes, gM.len, &r) >= 0 && le16(&r) == 0)
-            profileText(0x002B, zovQMIWDSProfileRespGetAPNName, apns[i], sizeof apns[i]);
+        begin(kWds, 0x002B);
+        uint8_t v[2] = {list[i].type, list[i].index};
+        add(0x01, v, 2);
+        list[i].apn[0] = 0;
+        if ((rc = send(c, kWds, "profile settings")) != kOk) return rc;
+        if (item(0x02).u16(0) == 0) text(0x14, list[i].apn, sizeof list[i].apn);
     }
     c.out.openArray("profiles");
     c.out.text("profiles:\n");
     for (int i = 0; i < count; ++i) {
         c.out.open(nullptr);
-        c.out.jnum("index", list[i].profileIndex);
-        c.out.jnum("type", list[i].profileType);
-        c.out.jstr("name", names[i]);
-        c.out.jstr("apn", apns[i]);
+        c.out.jnum("index", list[i].index);
+        c.out.jnum("type", list[i].type);
+        c.out.jstr("name", list[i].name);
+        c.out.jstr("apn", list[i].apn);
         c.out.close();
-        c.out.text("  %u: %s (APN %s)\n", list[i].profileIndex, names[i], apns[i]);
+        c.out.text("  %u: %s (APN %s)\n", list[i].index, list[i].name, list[i].apn);
     }
     c.out.close();
     return kOk;
 }
 
-// Appends the profile settings given by options; the new length or a
-// negative builder code.
-int profileItems(const Settings& s, int n) {
-    auto text = [](const char* v) { return reinterpret_cast<const uint8_t*>(v); };
-    if (n >= 0 && s.profileName)
-        n = zovQMIWDSProfileReqAddProfileName(gReq, sizeof gReq, uint16_t(strlen(s.profileName)), text(s.profileName));
-    if (n >= 0 && s.pdpType >= 0) n = zovQMIWDSProfileReqAddPDPType(gReq, sizeof gReq, uint8_t(s.pdpType));
-    if (n >= 0 && s.apn) n = zovQMIWDSProfileReqAddAPNName(gReq, sizeof gReq, uint16_t(strlen(s.apn)), text(s.apn));
-    if (n >= 0 && s.user) n = zovQMIWDSProfileReqAddUsername(gReq, sizeof gReq, uint16_t(strlen(s.user)), text(s.user));
-    if (n >= 0 && s.password)
-        n = zovQMIWDSProfileReqAddPassword(gReq, sizeof gReq, uint16_t(strlen(s.password)), text(s.password));
-    if (n >= 0 && s.auth >= 0) n = zovQMIWDSProfileReqAddAuthenticationPreference(gReq, sizeof gReq, uint8_t(s.auth));
-    return n;
+// Appends the profile settings given by options.
+void profileItems(const Settings& s) {
+    if (s.profileName) addText(0x10, s.profileName);
+    if (s.pdpType >= 0) add8(0x11, uint32_t(s.pdpType));
+    if (s.apn) addText(0x14, s.apn);
+    if (s.user) addText(0x1B, s.user);
+    if (s.password) addText(0x1C, s.password);
+    if (s.auth >= 0) add8(0x1D, uint32_t(s.auth));
 }
 
 int runCreateProfile(Cli& c, Step&) {
-    int n = profileItems(c.set, zovQMIWDSCreateProfileReq(gReq, sizeof gReq, 0));
-    int rc = c.s.request(ZOVQMI_SERVICE_WDS, gReq, n, &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    uint8_t type = 0, index = 0;
-    if ((rc = CHECKED("create profile", zovQMIWDSCreateProfileResp(gM.bytes, gM.len, &r, &type, &index))) != kOk)
-        return rc;
-    c.out.num("created_profile", "profile created", index);
+    const char* what = "create profile";
+    begin(kWds, 0x0027);
+    add8(0x01, 0);  // 3GPP
+    profileItems(c.set);
+    Item it;
+    int rc = ask(c, kWds, what);
+    if (rc != kOk || (rc = need(c, what, 0x01, 2, &it)) != kOk) return rc;
+    c.out.num("created_profile", "profile created", it.u8(1));
     return kOk;
 }
 
 int checkProfileIndex(Step& st) { return checkIndexArg(st, 0, 1, 255, "profile index"); }
 
-int runModifyProfile(Cli& c, Step& st) {
+int profileRequest(Cli& c, Step& st, uint16_t id, const char* what, const char* key, const char* label) {
     uint8_t index = uint8_t(st.n[0]);
-    int n = profileItems(c.set, zovQMIWDSModifyProfileSettingsReq(gReq, sizeof gReq, 0, index));
-    int rc = simple(c, ZOVQMI_SERVICE_WDS, "modify profile", n, zovQMIWDSModifyProfileSettingsResp);
-    if (rc == kOk) c.out.num("modified_profile", "profile modified", index);
+    begin(kWds, id);
+    uint8_t v[3] = {0, index, index};
+    if (id == 0x004A) v[1] = 1;  // default profile: type 3GPP, the socket family, the index
+    add(0x01, v, id == 0x004A ? 3 : 2);
+    if (id == 0x0028) profileItems(c.set);
+    int rc = ask(c, kWds, what);
+    if (rc == kOk) c.out.num(key, label, index);
     return rc;
+}
+
+int runModifyProfile(Cli& c, Step& st) {
+    return profileRequest(c, st, 0x0028, "modify profile", "modified_profile", "profile modified");
 }
 
 int runDeleteProfile(Cli& c, Step& st) {
-    uint8_t index = uint8_t(st.n[0]);
-    int rc = simple(c, ZOVQMI_SERVICE_WDS, "delete profile", zovQMIWDSDeleteProfileReq(gReq, sizeof gReq, 0, index),
-                    zovQMIWDSDeleteProfileResp);
-    if (rc == kOk) c.out.num("deleted_profile", "profile deleted", index);
-    return rc;
+    return profileRequest(c, st, 0x0029, "delete profile", "deleted_profile", "profile deleted");
 }
 
 int runDefaultProfile(Cli& c, Step& st) {
-    uint8_t index = uint8_t(st.n[0]);
-    // Profile family 0 (3GPP), for calls started over WDS (family 1 is
-    // the embedded one: both are set alike by most hosts; the socket family
-    // is what a router uses).
-    int rc = simple(c, ZOVQMI_SERVICE_WDS, "set default profile",
-                    zovQMIWDSSetDefaultProfileNumReq(gReq, sizeof gReq, 0, 1, index), zovQMIWDSSetDefaultProfileNumResp);
-    if (rc == kOk) c.out.num("default_profile", "default profile", index);
-    return rc;
+    return profileRequest(c, st, 0x004A, "set default profile", "default_profile", "default profile");
 }
 
 // ===================================================================== CTL ==
@@ -1119,14 +1097,16 @@ int checkDataFormat(Step& st) {
 }
 
 int runDataFormat(Cli& c, Step& st) {
-    zovQMICTLSetDataFormatReq(gReq, sizeof gReq, 0);
-    int n = zovQMICTLSetDataFormatReqAddUnderlyingLinkLayerProtocol(gReq, sizeof gReq, uint16_t(st.n[0]));
-    int rc = c.s.request(ZOVQMI_SERVICE_CTL, 0, gReq, n, &gM);
+    begin(ZOVQMI_SERVICE_CTL, 0x0026);
+    add8(0x01, 0);  // no QoS header
+    add16(0x10, uint32_t(st.n[0]));
+    const char* what = "set data format";
+    int rc = c.s.request(ZOVQMI_SERVICE_CTL, 0, gReq, gReqLen, &gM);
     if (rc != kOk) return rc;
-    QmiResult r = {};
-    if ((rc = CHECKED("set data format", zovQMICTLSetDataFormatResp(gM.bytes, gM.len, &r))) != kOk) return rc;
-    uint16_t protocol = uint16_t(st.n[0]);
-    zovQMICTLSetDataFormatRespGetUnderlyingLinkLayerProtocol(gM.bytes, gM.len, &protocol);
+    if (!items()) return bad(c, what, "items longer than the message");
+    if ((rc = result(c, what)) != kOk) return rc;
+    Item p = item(0x10);
+    int protocol = p.has(0, 2) ? p.u16(0) : int(st.n[0]);
     const char* name = protocol == 1 ? "802.3" : protocol == 2 ? "raw-ip" : "unknown";
     c.out.str("data_format", "data format", name);
     if (protocol != st.n[0]) return c.s.fail(kBadAnswer, "set data format: the modem chose %s", name);
@@ -1136,27 +1116,23 @@ int runDataFormat(Cli& c, Step& st) {
 // ===================================================================== WMS ==
 
 int runWmsList(Cli& c, Step& st) {
-    uint8_t store = uint8_t(st.n[0]);
-    int rc = c.s.request(ZOVQMI_SERVICE_WMS, gReq, zovQMIWMSListMessagesReq(gReq, sizeof gReq, store), &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    uint32_t count = 0;
     const char* what = "list messages";
-    if ((rc = CHECKED(what, zovQMIWMSListMessagesResp(gM.bytes, gM.len, &r, &count, nullptr, nullptr))) != kOk)
-        return rc;
-    static uint32_t idx[kMaxMessage / 5];
-    static uint8_t tags[kMaxMessage / 5];
-    if (count > uint32_t(areaLen() / 5)) return bad(c, what, "more messages than the message holds");
-    if (count && zovQMIWMSListMessagesResp(gM.bytes, gM.len, &r, &count, idx, tags) < 0)
-        return bad(c, what, "message list unreadable");
+    begin(kWms, 0x0031);
+    add8(0x01, uint32_t(st.n[0]));
+    Item it;
+    int rc = ask(c, kWms, what);
+    if (rc != kOk || (rc = need(c, what, 0x01, 4, &it)) != kOk) return rc;
+    uint32_t count = it.u32(0);
+    if (count > uint32_t(it.n / 5) || !it.has(4, int(count) * 5)) return bad(c, what, "list longer than its item");
     c.out.openArray("messages");
     c.out.text("messages: %u\n", count);
     for (uint32_t i = 0; i < count; ++i) {
+        int off = 4 + int(i) * 5;
         c.out.open(nullptr);
-        c.out.jnum("index", idx[i]);
-        c.out.jstr("tag", tagName(tags[i]));
+        c.out.jnum("index", it.u32(off));
+        c.out.jstr("tag", tagName(it.u8(off + 4)));
         c.out.close();
-        c.out.text("  %u: %s\n", idx[i], tagName(tags[i]));
+        c.out.text("  %u: %s\n", it.u32(off), tagName(it.u8(off + 4)));
     }
     c.out.close();
     return kOk;
@@ -1178,41 +1154,42 @@ void hexOut(const uint8_t* b, int n, char* out) {
     out[2 * n] = 0;
 }
 
+// A store and an index as the first item.
+void storeIndex(uint8_t type, uint8_t store, uint32_t index) {
+    uint8_t v[5] = {store, uint8_t(index), uint8_t(index >> 8), uint8_t(index >> 16), uint8_t(index >> 24)};
+    add(type, v, 5);
+}
+
 int runWmsRead(Cli& c, Step& st) {
-    uint8_t store = uint8_t(st.n[0]);
-    uint32_t index = uint32_t(st.n[1]);
-    int rc = c.s.request(ZOVQMI_SERVICE_WMS, gReq, zovQMIWMSRawReadReq(gReq, sizeof gReq, store, index), &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    // The raw message: a 10-byte head and the PDU, no longer than the answer.
-    // (The library refuses a length that runs past the answer, so the
-    // answer's size bounds what it copies.)
-    static uint8_t rec[10 + kMaxMessage];
-    memset(rec, 0, 10);
     const char* what = "read message";
-    int parsed = zovQMIWMSRawReadResp(gM.bytes, gM.len, &r, reinterpret_cast<WMSRawMessage*>(rec));
-    if ((rc = c.s.check(what, parsed, r)) != kOk) return rc;
-    uint16_t len = le16(rec + 8);
-    if (len > areaLen()) return bad(c, what, "message longer than the answer");
+    uint32_t index = uint32_t(st.n[1]);
+    begin(kWms, 0x0022);
+    storeIndex(0x01, uint8_t(st.n[0]), index);
+    Item it;
+    int rc = ask(c, kWms, what);
+    if (rc != kOk || (rc = need(c, what, 0x01, 4, &it)) != kOk) return rc;
+    int len = it.u16(2);
+    if (!it.has(4, len)) return bad(c, what, "message longer than its item");
+    const uint8_t* pdu = it.p + 4;
     static DecodedSms sms;
-    int dec = decodePdu(rec + 10, len, &sms);
+    int dec = decodePdu(pdu, len, &sms);
     static char hex[2 * kMaxMessage + 1];
-    hexOut(rec + 10, len, hex);
+    hexOut(pdu, len, hex);
     c.out.open("message");
     c.out.jnum("index", index);
-    c.out.jstr("tag", tagName(rec[6]));
-    c.out.jnum("format", rec[7]);
+    c.out.jstr("tag", tagName(it.u8(0)));
+    c.out.jnum("format", it.u8(1));
     c.out.jstr("pdu", hex);
-    c.out.text("message %u: %s\nPDU: %s\n", index, tagName(rec[6]), hex);
+    c.out.text("message %u: %s\nPDU: %s\n", index, tagName(it.u8(0)), hex);
     if (dec == kPduOk) {
         c.out.str("type", "type", sms.submit ? "submit" : "deliver");
         c.out.str("address", sms.submit ? "to" : "from", sms.address);
         if (sms.centre[0]) c.out.str("smsc", "SMSC", sms.centre);
         if (sms.hasTime) {
             char t[40];
+            int z = sms.zoneMinutes < 0 ? -sms.zoneMinutes : sms.zoneMinutes;
             snprintf(t, sizeof t, "%04d-%02d-%02d %02d:%02d:%02d %c%02d:%02d", sms.year, sms.month, sms.day, sms.hour,
-                     sms.minute, sms.second, sms.zoneMinutes < 0 ? '-' : '+', abs(sms.zoneMinutes) / 60,
-                     abs(sms.zoneMinutes) % 60);
+                     sms.minute, sms.second, sms.zoneMinutes < 0 ? '-' : '+', z / 60, z % 60);
             c.out.str("time", "time", t);
         }
         c.out.str("encoding", "encoding", codingName(sms.coding));
@@ -1246,24 +1223,20 @@ int runSend(Cli& c, Step& st) {
     encodeSubmit(st.arg[0], st.arg[1], reference, &parts);
     uint16_t ids[kMaxParts];
     for (int p = 0; p < parts.count; ++p) {
-        static uint8_t raw[10 + kPduMax];
-        memset(raw, 0, 10);
-        raw[7] = 6;  // GSM/WCDMA point to point
-        raw[8] = uint8_t(parts.len[p]);
-        raw[9] = uint8_t(parts.len[p] >> 8);
-        memcpy(raw + 10, parts.pdu[p], size_t(parts.len[p]));
-        int rc = c.s.request(ZOVQMI_SERVICE_WMS, gReq,
-                             zovQMIWMSRawSendReq(gReq, sizeof gReq, reinterpret_cast<const WMSRawMessage*>(raw)), &gM);
-        if (rc != kOk) return rc;
-        QmiResult r = {};
+        uint8_t v[3 + kPduMax] = {6, uint8_t(parts.len[p]), uint8_t(parts.len[p] >> 8)};  // GSM/WCDMA point to point
+        memcpy(v + 3, parts.pdu[p], size_t(parts.len[p]));
+        begin(kWms, 0x0020);
+        add(0x01, v, 3 + parts.len[p]);
         char what[48];
-        uint16_t cause = 0;
         int len = snprintf(what, sizeof what, "send message");
         if (parts.count > 1) len += snprintf(what + len, sizeof what - size_t(len), " part %d", p + 1);
-        int parsed = zovQMIWMSRawSendResp(gM.bytes, gM.len, &r, &ids[p]);
-        if (le16(&r) != 0 && zovQMIWMSRawSendRespGetCauseCode(gM.bytes, gM.len, &cause) >= 0)
-            snprintf(what + len, sizeof what - size_t(len), " (cause %u)", cause);
-        if ((rc = c.s.check(what, parsed, r)) != kOk) return rc;
+        int rc = send(c, kWms, what);
+        if (rc != kOk) return rc;
+        Item cause = item(0x10), id;
+        if (item(0x02).u16(0) != 0 && cause.has(0, 2))
+            snprintf(what + len, sizeof what - size_t(len), " (cause %u)", cause.u16(0));
+        if ((rc = result(c, what)) != kOk || (rc = need(c, what, 0x01, 2, &id)) != kOk) return rc;
+        ids[p] = id.u16(0);
     }
     c.out.open("sent");
     c.out.str("encoding", nullptr, codingName(parts.coding));
@@ -1279,11 +1252,11 @@ int runSend(Cli& c, Step& st) {
 }
 
 int runWmsDelete(Cli& c, Step& st) {
-    uint8_t store = uint8_t(st.n[0]);
     uint32_t index = uint32_t(st.n[1]);
-    zovQMIWMSDeleteReq(gReq, sizeof gReq, store);
-    int n = zovQMIWMSDeleteReqAddMemoryIndex(gReq, sizeof gReq, index);
-    int rc = simple(c, ZOVQMI_SERVICE_WMS, "delete message", n, zovQMIWMSDeleteResp);
+    begin(kWms, 0x0024);
+    add8(0x01, uint32_t(st.n[0]));
+    add32(0x10, index);
+    int rc = ask(c, kWms, "delete message");
     if (rc != kOk) return rc;
     c.out.jnum("deleted_message", index);
     c.out.text("message %u deleted\n", index);
@@ -1291,22 +1264,18 @@ int runWmsDelete(Cli& c, Step& st) {
 }
 
 int runGetSmsc(Cli& c, Step&) {
-    int rc = c.s.request(ZOVQMI_SERVICE_WMS, gReq, zovQMIWMSGetSMSCAddressReq(gReq, sizeof gReq), &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
-    uint8_t type[4] = {}, len = 0;
-    char address[256];
     const char* what = "SMSC address";
-    if ((rc = CHECKED(what, zovQMIWMSGetSMSCAddressResp(gM.bytes, gM.len, &r, type, &len, nullptr))) != kOk) return rc;
-    if (len > areaLen()) return bad(c, what, "address longer than the answer");
-    if (zovQMIWMSGetSMSCAddressResp(gM.bytes, gM.len, &r, type, &len, reinterpret_cast<uint8_t*>(address)) < 0)
-        return bad(c, what, "address unreadable");
-    address[len] = 0;
+    begin(kWms, 0x0034);
+    Item it;
+    int rc = ask(c, kWms, what);
+    if (rc != kOk || (rc = need(c, what, 0x01, 4, &it)) != kOk) return rc;
+    int len = it.u8(3);
+    if (!it.has(4, len)) return bad(c, what, "address longer than its item");
     char t[4];
-    for (int i = 0; i < 3; ++i) t[i] = type[i] >= 0x20 && type[i] < 0x7F ? char(type[i]) : '?';
+    for (int i = 0; i < 3; ++i) t[i] = it.u8(i) >= 0x20 && it.u8(i) < 0x7F ? char(it.u8(i)) : '?';
     t[3] = 0;
     c.out.open("smsc");
-    c.out.str("address", "SMSC", address, len);
+    c.out.str("address", "SMSC", it.at(4), len);
     c.out.str("type", "SMSC type", t);
     c.out.close();
     return kOk;
@@ -1318,11 +1287,10 @@ int checkSetSmsc(Step& st) {
 
 int runSetSmsc(Cli& c, Step& st) {
     const char* number = st.arg[0];
-    // Type of number: 145 international (with +), 129 otherwise.
-    const char* type = number[0] == '+' ? "145" : "129";
-    zovQMIWMSSetSMSCAddressReq(gReq, sizeof gReq, uint16_t(strlen(number)), number);
-    int n = zovQMIWMSSetSMSCAddressReqAddSMSCAddressType(gReq, sizeof gReq, 3, type);
-    int rc = simple(c, ZOVQMI_SERVICE_WMS, "set SMSC address", n, zovQMIWMSSetSMSCAddressResp);
+    begin(kWms, 0x0035);
+    addText(0x01, number);
+    addText(0x10, number[0] == '+' ? "145" : "129");  // type of number: international, or not
+    int rc = ask(c, kWms, "set SMSC address");
     if (rc == kOk) c.out.str("smsc_set", "SMSC set", number);
     return rc;
 }
@@ -1333,9 +1301,16 @@ int runSetSmsc(Cli& c, Step& st) {
 constexpr uint8_t kPbSession = 0;
 constexpr uint16_t kPbAdn = 1;
 
-// Records one read delivers at most (ids up to 65535, and modems keep some
-// hundreds): enough for any SIM phonebook.
+// Records one read delivers at most: enough for any SIM phonebook.
 constexpr int kMaxRecords = 1000;
+
+// Starts a phonebook request: session and phonebook, then `more`.
+void phonebook(uint16_t id, const uint8_t* more, int n) {
+    begin(kPbm, id);
+    uint8_t v[7] = {kPbSession, uint8_t(kPbAdn), uint8_t(kPbAdn >> 8)};
+    memcpy(v + 3, more, size_t(n));
+    add(0x01, v, 3 + n);
+}
 
 int checkPbmRead(Step& st) {
     const char* v = st.arg[0];
@@ -1356,52 +1331,49 @@ int checkPbmRead(Step& st) {
 }
 
 // Reads records [first, last] through their record-read indications and
-// prints them under `key`.
-int readRecords(Cli& c, uint16_t first, uint16_t last, const char* key, const char* label, bool printOpen,
-                bool* found) {
-    int n = zovQMIPBMReadRecordsReq(gReq, sizeof gReq, kPbSession, kPbAdn, first, last);
-    int rc = c.s.request(ZOVQMI_SERVICE_PBM, gReq, n, &gM);
+// prints each as an element of the array open.
+int readRecords(Cli& c, uint16_t first, uint16_t last) {
+    const char* what = "read records";
+    uint8_t range[4] = {uint8_t(first), uint8_t(first >> 8), uint8_t(last), uint8_t(last >> 8)};
+    phonebook(0x0004, range, 4);
+    int rc = ask(c, kPbm, what);
     if (rc != kOk) return rc;
-    QmiResult r = {};
-    if ((rc = CHECKED("read records", zovQMIPBMReadRecordsResp(gM.bytes, gM.len, &r))) != kOk) return rc;
-    uint16_t count = 0;
-    zovQMIPBMReadRecordsRespGetNumberOfRecords(gM.bytes, gM.len, &count);
-    if (printOpen) {
-        c.out.openArray(key);
-        c.out.text("%s:\n", label);
-    }
-    static PBMRecordSet set;
-    int seen = 0;
-    while (seen < count && seen < kMaxRecords) {
-        rc = c.s.awaitIndication(ZOVQMI_SERVICE_PBM, 0x0004, -1, &gM);
-        if (rc != kOk) return rc;
-        memset(&set, 0, sizeof set);
-        if (zovQMIPBMRecordReadIND(gM.bytes, gM.len, &set) < 0) return bad(c, "record read indication", "does not parse");
-        if (set.recordCount == 0 || set.recordCount > 10) return bad(c, "record read indication", "bad record count");
-        for (int i = 0; i < set.recordCount; ++i) {
-            const PBMNumberSlot& num = set.numbers[i][0];
-            const PBMTextSlot& name = set.name[i];
-            int nl = num.length < 40 ? num.length : 40, tl = name.length < 242 ? name.length : 242;
+    int count = item(0x10).u16(0);
+    const char* ind = "record read indication";
+    for (int seen = 0; seen < count && seen < kMaxRecords;) {
+        if ((rc = c.s.awaitIndication(kPbm, 0x0004, -1, &gM)) != kOk) return rc;
+        Item it;
+        if (!items() || (rc = need(c, ind, 0x01, 6, &it)) != kOk) return rc != kOk ? rc : bad(c, ind, "header");
+        int n = it.u8(5);
+        if (n == 0) return bad(c, ind, "no records");
+        for (int i = 0, off = 6; i < n; ++i) {
+            // id, two number attributes, number, name (each led by its length)
+            if (!it.has(off, 5) || !it.has(off + 5, it.u8(off + 4) + 1)) return bad(c, ind, "record cut short");
+            int nl = it.u8(off + 4), tl = it.u8(off + 5 + nl);
+            if (!it.has(off + 6 + nl, tl)) return bad(c, ind, "record cut short");
             char number[48];
             int k = 0;
-            if (num.attribute1 == 0x91) number[k++] = '+';
-            memcpy(number + k, num.number, size_t(nl));
-            number[k + nl] = 0;
+            if (it.u8(off + 2) == 0x91) number[k++] = '+';
+            int copy = nl < 40 ? nl : 40;
+            memcpy(number + k, it.at(off + 5), size_t(copy));
+            number[k + copy] = 0;
             c.out.open(nullptr);
-            c.out.jnum("id", le16(set.recordId[i]));
-            c.out.jstr("name", reinterpret_cast<const char*>(name.text), tl);
+            c.out.jnum("id", it.u16(off));
+            c.out.jstr("name", it.at(off + 6 + nl), tl);
             c.out.jstr("number", number);
             c.out.close();
-            c.out.text("  %u: %.*s <%s>\n", le16(set.recordId[i]), tl, reinterpret_cast<const char*>(name.text), number);
-            if (found) *found = true;
+            c.out.text("  %u: %.*s <%s>\n", it.u16(off), tl, it.at(off + 6 + nl), number);
+            off += 6 + nl + tl;
         }
-        seen += set.recordCount;
+        seen += n;
     }
     return kOk;
 }
 
 int runPbmRead(Cli& c, Step& st) {
-    int rc = readRecords(c, uint16_t(st.n[0]), uint16_t(st.n[1]), "records", "phonebook records", true, nullptr);
+    c.out.openArray("records");
+    c.out.text("phonebook records:\n");
+    int rc = readRecords(c, uint16_t(st.n[0]), uint16_t(st.n[1]));
     if (rc == kOk) c.out.close();
     return rc;
 }
@@ -1426,28 +1398,27 @@ int checkPbmWrite(Step& st) {
 }
 
 int runPbmWrite(Cli& c, Step& st) {
-    static PBMRecordSet set;
-    memset(&set, 0, sizeof set);
     const char *name = st.arg[1], *number = st.arg[2];
     bool intl = number[0] == '+';
     if (intl) ++number;
-    set.selectorByte = kPbSession;
-    set.selectorWord[0] = uint8_t(kPbAdn), set.selectorWord[1] = uint8_t(kPbAdn >> 8);
-    set.recordCount = 1;
-    set.recordId[0][0] = uint8_t(st.n[0]), set.recordId[0][1] = uint8_t(st.n[0] >> 8);
-    PBMNumberSlot& num = set.numbers[0][0];
-    num.attribute1 = intl ? 0x91 : 0x81;
-    num.length = uint8_t(strlen(number));
-    memcpy(num.number, number, num.length);
-    set.name[0].length = uint8_t(strlen(name));
-    memcpy(set.name[0].text, name, set.name[0].length);
-    int rc = c.s.request(ZOVQMI_SERVICE_PBM, gReq, zovQMIPBMWriteRecordReq(gReq, sizeof gReq, &set), &gM);
+    int nl = int(strlen(number)), tl = int(strlen(name));
+    uint8_t v[300];
+    int k = 0;
+    v[k++] = kPbSession, v[k++] = uint8_t(kPbAdn), v[k++] = uint8_t(kPbAdn >> 8);
+    v[k++] = uint8_t(st.n[0]), v[k++] = uint8_t(st.n[0] >> 8);
+    v[k++] = intl ? 0x91 : 0x81, v[k++] = 0;
+    v[k++] = uint8_t(nl);
+    memcpy(v + k, number, size_t(nl));
+    k += nl;
+    v[k++] = uint8_t(tl);
+    memcpy(v + k, name, size_t(tl));
+    k += tl;
+    begin(kPbm, 0x0005);
+    add(0x01, v, k);
+    int rc = ask(c, kPbm, "write record");
     if (rc != kOk) return rc;
-    QmiResult r = {};
-    if ((rc = CHECKED("write record", zovQMIPBMWriteRecordResp(gM.bytes, gM.len, &r))) != kOk) return rc;
-    uint16_t id = uint16_t(st.n[0]);
-    zovQMIPBMWriteRecordRespGetRecordInfo(gM.bytes, gM.len, &id);
-    c.out.num("written_record", "record written", id);
+    Item id = item(0x10);
+    c.out.num("written_record", "record written", id.has(0, 2) ? id.u16(0) : st.n[0]);
     return kOk;
 }
 
@@ -1455,8 +1426,9 @@ int checkPbmDelete(Step& st) { return checkIndexArg(st, 0, 1, 65535, "record id"
 
 int runPbmDelete(Cli& c, Step& st) {
     uint16_t id = uint16_t(st.n[0]);
-    int rc = simple(c, ZOVQMI_SERVICE_PBM, "delete record",
-                    zovQMIPBMDeleteRecordReq(gReq, sizeof gReq, kPbSession, kPbAdn, id), zovQMIPBMDeleteRecordResp);
+    uint8_t v[2] = {uint8_t(id), uint8_t(id >> 8)};
+    phonebook(0x0006, v, 2);
+    int rc = ask(c, kPbm, "delete record");
     if (rc == kOk) c.out.num("deleted_record", "record deleted", id);
     return rc;
 }
@@ -1467,23 +1439,23 @@ int checkPbmSearch(Step& st) {
 }
 
 int runPbmSearch(Cli& c, Step& st) {
-    const char* name = st.arg[0];
-    zovQMIPBMSearchRecordsReq(gReq, sizeof gReq, kPbSession, kPbAdn);
-    int n = zovQMIPBMSearchRecordsReqAddNameInformation(gReq, sizeof gReq, uint8_t(strlen(name)), name);
-    int rc = c.s.request(ZOVQMI_SERVICE_PBM, gReq, n, &gM);
-    if (rc != kOk) return rc;
-    QmiResult r = {};
     const char* what = "search records";
-    if ((rc = CHECKED(what, zovQMIPBMSearchRecordsResp(gM.bytes, gM.len, &r))) != kOk) return rc;
-    uint16_t count = 0;
+    const char* name = st.arg[0];
+    uint8_t v[242];
+    v[0] = uint8_t(strlen(name));
+    memcpy(v + 1, name, v[0]);
+    phonebook(0x0008, nullptr, 0);
+    add(0x11, v, 1 + v[0]);
+    int rc = ask(c, kPbm, what);
+    if (rc != kOk) return rc;
+    Item it = item(0x10);
+    int count = it.u16(0);
+    if (!it.has(2, count * 2)) return bad(c, what, "more ids than its item holds");
     static uint16_t ids[kMaxMessage / 2];
-    if (zovQMIPBMSearchRecordsRespGetRecordIDsList(gM.bytes, gM.len, &count, nullptr) < 0) count = 0;
-    if (count * 2 > areaLen()) return bad(c, what, "more ids than the message holds");
-    if (count && zovQMIPBMSearchRecordsRespGetRecordIDsList(gM.bytes, gM.len, &count, ids) < 0)
-        return bad(c, what, "id list unreadable");
+    for (int i = 0; i < count; ++i) ids[i] = it.u16(2 + 2 * i);
     c.out.openArray("found");
-    c.out.text("records found: %u\n", count);
-    for (int i = 0; i < count && rc == kOk; ++i) rc = readRecords(c, ids[i], ids[i], nullptr, nullptr, false, nullptr);
+    c.out.text("records found: %d\n", count);
+    for (int i = 0; i < count && rc == kOk; ++i) rc = readRecords(c, ids[i], ids[i]);
     if (rc == kOk) c.out.close();
     return rc;
 }
@@ -1503,47 +1475,48 @@ double asDouble(uint64_t bits) {
     return d;
 }
 
-// One event report: prints its NMEA sentence, reads its parsed position.
-// A session status other than success ends the session with a failure.
+// One event report in gM: prints its NMEA sentence, reads its parsed
+// position.  A session status other than success ends with a failure.
 int eventReport(Cli& c, Fix* fix) {
-    static char nmea[kMaxMessage];
-    if (textItem(zovQMIPDSEventReportINDGetPositionDataNMEA, nmea, sizeof nmea)) {
-        int len = int(strlen(nmea));
-        while (len > 0 && (nmea[len - 1] == '\n' || nmea[len - 1] == '\r')) nmea[--len] = 0;
-        c.out.jstr(nullptr, nmea, len);
-        c.out.text("NMEA: %s\n", nmea);
+    if (!items()) return bad(c, "position report", "items longer than the message");
+    Item nmea = item(0x10), status = item(0x12), p = item(0x13);
+    if (nmea.found) {
+        int len = nmea.n;
+        while (len > 0 && (nmea.p[len - 1] == '\n' || nmea.p[len - 1] == '\r')) --len;
+        c.out.jstr(nullptr, nmea.at(0), len);
+        c.out.text("NMEA: %.*s\n", len, nmea.at(0));
         fflush(stdout);
     }
-    uint8_t status = 0;
-    if (zovQMIPDSEventReportINDGetPositionSessionStatus(gM.bytes, gM.len, &status) >= 0 && status != 0)
-        return c.s.fail(kQmiFailure, "position session ended with status %u", status);
-    ParsedPositionData p;
-    if (zovQMIPDSEventReportINDGetParsedPositionData(gM.bytes, gM.len, &p) >= 0) {
+    if (status.has(0, 1) && status.u8(0) != 0)
+        return c.s.fail(kQmiFailure, "position session ended with status %u", status.u8(0));
+    // The parsed position: date and time at 4..11, latitude and longitude
+    // (doubles) at 27 and 35, the altitude above sea level at 47.
+    if (p.has(0, 51)) {
         fix->has = true;
-        fix->latitude = asDouble(le64(&p.latitude));
-        fix->longitude = asDouble(le64(&p.longitude));
-        fix->altitude = int32_t(le32(&p.altitudeFromSeaLevel));
-        fix->year = le16(&p.year);
-        fix->month = p.month, fix->day = p.dayOfMonth;
-        fix->hour = p.hour, fix->minute = p.minute, fix->second = p.second;
+        fix->latitude = asDouble(p.u64(27));
+        fix->longitude = asDouble(p.u64(35));
+        fix->altitude = int32_t(p.u32(47));
+        fix->year = p.u16(4);
+        fix->month = p.u8(6), fix->day = p.u8(8);
+        fix->hour = p.u8(9), fix->minute = p.u8(10), fix->second = p.u8(11);
     }
     return kOk;
 }
 
+// NMEA sentences and parsed positions, to this client.
 int subscribe(Cli& c) {
-    zovQMIPDSSetEventReportReq(gReq, sizeof gReq);
-    zovQMIPDSSetEventReportReqAddPositionDataNMEA(gReq, sizeof gReq, 1);
-    int n = zovQMIPDSSetEventReportReqAddParsedPositionData(gReq, sizeof gReq, 1);
-    return simple(c, ZOVQMI_SERVICE_PDS, "position event report", n, zovQMIPDSSetEventReportResp);
+    begin(kPds, 0x0001);
+    add8(0x10, 1);
+    add8(0x12, 1);
+    return ask(c, kPds, "position event report");
 }
 
 int runSingleFix(Cli& c, Step&) {
     int rc = subscribe(c);
     if (rc != kOk) return rc;
-    zovQMIPDSDetermineSinglePositionReq(gReq, sizeof gReq);
-    int n = zovQMIPDSDetermineSinglePositionReqAddSinglePositionTimeout(gReq, sizeof gReq, 30);
-    if ((rc = simple(c, ZOVQMI_SERVICE_PDS, "single position fix", n, zovQMIPDSDetermineSinglePositionResp)) != kOk)
-        return rc;
+    begin(kPds, 0x0035);
+    add8(0x11, 30);  // seconds
+    if ((rc = ask(c, kPds, "single position fix")) != kOk) return rc;
     Fix fix = {};
     c.out.open("fix");
     c.out.openArray("nmea");
@@ -1553,13 +1526,13 @@ int runSingleFix(Cli& c, Step&) {
     while (!fix.has) {
         int left = int(until - monotonicMs());
         if (left <= 0) return c.s.fail(kTimeout, "timeout: no position within %d ms", limit);
-        if ((rc = c.s.awaitIndication(ZOVQMI_SERVICE_PDS, 0x0001, left, &gM)) != kOk) return rc;
+        if ((rc = c.s.awaitIndication(kPds, 0x0001, left, &gM)) != kOk) return rc;
         if ((rc = eventReport(c, &fix)) != kOk) return rc;
     }
     c.out.close();
     char v[32];
     snprintf(v, sizeof v, "%.6f", fix.latitude);
-    c.out.jstr("latitude", v);  // as text: JSON numbers of this writer are integers
+    c.out.jstr("latitude", v);  // as text: the JSON writer's numbers are integers
     snprintf(v, sizeof v, "%.6f", fix.longitude);
     c.out.jstr("longitude", v);
     c.out.jnum("altitude", fix.altitude);
@@ -1570,22 +1543,25 @@ int runSingleFix(Cli& c, Step&) {
 }
 
 int setTracking(Cli& c, bool on) {
-    return simple(c, ZOVQMI_SERVICE_PDS, on ? "start tracking" : "stop tracking",
-                  zovQMIPDSSetAutoTrackingStateReq(gReq, sizeof gReq, on ? 1 : 0), zovQMIPDSSetAutoTrackingStateResp);
+    begin(kPds, 0x0031);
+    add8(0x01, on ? 1 : 0);
+    return ask(c, kPds, on ? "start tracking" : "stop tracking");
 }
 
 int runStartTracking(Cli& c, Step&) {
     int rc = subscribe(c);
     if (rc != kOk) return rc;
     // The GPS on (already on is no failure), a fix a second, then tracking.
-    rc = simple(c, ZOVQMI_SERVICE_PDS, "GPS service state", zovQMIPDSSetGPSServiceStateReq(gReq, sizeof gReq, 1),
-                zovQMIPDSSetGPSServiceStateResp);
+    begin(kPds, 0x0021);
+    add8(0x01, 1);
+    rc = ask(c, kPds, "GPS service state");
     if (rc == kQmiFailure && c.s.qmiError() == 0x001A) rc = kOk;
     if (rc != kOk) return rc;
-    rc = simple(c, ZOVQMI_SERVICE_PDS, "tracking session",
-                zovQMIPDSSetDefaultTrackingSessionReq(gReq, sizeof gReq, 0, 255, 1000, 50),
-                zovQMIPDSSetDefaultTrackingSessionResp);
-    if (rc != kOk) return rc;
+    // Mode standalone, no timeout of its own, every 1000 ms, 50 m.
+    const uint8_t session[10] = {0, 255, 0xE8, 0x03, 0, 0, 50, 0, 0, 0};
+    begin(kPds, 0x002A);
+    add(0x01, session, 10);
+    if ((rc = ask(c, kPds, "tracking session")) != kOk) return rc;
     if ((rc = setTracking(c, true)) != kOk) return rc;
     c.out.open("tracking");
     c.out.openArray("nmea");
@@ -1593,7 +1569,7 @@ int runStartTracking(Cli& c, Step&) {
     while (c.set.count == 0 || fixes < c.set.count) {
         // No end but the count, a signal or the device going away: a fix
         // may take minutes under a roof.
-        rc = c.s.awaitIndication(ZOVQMI_SERVICE_PDS, 0x0001, 3600000, &gM);
+        rc = c.s.awaitIndication(kPds, 0x0001, 3600000, &gM);
         if (rc == kTimeout) continue;
         if (rc != kOk) break;
         Fix fix = {};
@@ -1627,14 +1603,8 @@ int runStopTracking(Cli& c, Step&) {
 
 // ===================================================================== raw ==
 
-// Items of one raw request, and their bytes.
+// Items of one raw request.
 constexpr int kMaxRawItems = 8;
-struct RawItem {
-    uint8_t type;
-    uint16_t len;
-    uint8_t value[256];
-};
-RawItem gRaw[kMaxRawItems];
 
 int hexNibble(char ch) {
     if (ch >= '0' && ch <= '9') return ch - '0';
@@ -1643,9 +1613,9 @@ int hexNibble(char ch) {
     return -1;
 }
 
-// SERVICE:MSGID[:TYPE=HEX,...]; the items are parsed again when the action
-// runs (the check keeps nothing but numbers).
-int parseRaw(const char* v, long long* service, long long* id, RawItem* items, int* count) {
+// SERVICE:MSGID[:TYPE=HEX,...].  With `build` the request is built as it
+// is parsed (the check parses without building).
+int parseRaw(const char* v, long long* service, long long* id, bool build) {
     const char* rest;
     int svc = serviceOf(v, &rest);
     if (svc < 0) return usageError("bad --send-raw %s (SERVICE:MSGID[:TYPE=HEX,...])", v);
@@ -1657,12 +1627,11 @@ int parseRaw(const char* v, long long* service, long long* id, RawItem* items, i
     memcpy(num, rest, len);
     num[len] = 0;
     if (!parseNumber(num, 0, 0xFFFF, id)) return usageError("bad message id in --send-raw %s", v);
-    *count = 0;
+    if (build) begin(uint8_t(svc), uint16_t(*id));
     if (!colon) return kExitOk;
-    const char* p = colon + 1;
-    while (*p) {
-        if (*count == kMaxRawItems) return usageError("more than %d items in --send-raw", kMaxRawItems);
-        RawItem& it = items[(*count)++];
+    int count = 0;
+    for (const char* p = colon + 1; *p;) {
+        if (++count > kMaxRawItems) return usageError("more than %d items in --send-raw", kMaxRawItems);
         const char* eq = strchr(p, '=');
         const char* comma = strchr(p, ',');
         if (!eq || (comma && comma < eq) || size_t(eq - p) >= sizeof num)
@@ -1671,88 +1640,53 @@ int parseRaw(const char* v, long long* service, long long* id, RawItem* items, i
         num[eq - p] = 0;
         long long type;
         if (!parseNumber(num, 0, 255, &type)) return usageError("bad item type %s in --send-raw", num);
-        it.type = uint8_t(type);
-        it.len = 0;
         const char* h = eq + 1;
         const char* end = comma ? comma : h + strlen(h);
-        if ((end - h) % 2) return usageError("odd number of hex digits in --send-raw item 0x%02X", it.type);
-        if ((end - h) / 2 > int(sizeof it.value)) return usageError("--send-raw item 0x%02X longer than 256 bytes", it.type);
+        if ((end - h) % 2) return usageError("odd number of hex digits in --send-raw item 0x%02llX", type);
+        uint8_t value[256];
+        int n = 0;
+        if ((end - h) / 2 > int(sizeof value)) return usageError("--send-raw item 0x%02llX longer than 256 bytes", type);
         for (; h < end; h += 2) {
             int hi = hexNibble(h[0]), lo = hexNibble(h[1]);
-            if (hi < 0 || lo < 0) return usageError("bad hex digits in --send-raw item 0x%02X", it.type);
-            it.value[it.len++] = uint8_t(hi << 4 | lo);
+            if (hi < 0 || lo < 0) return usageError("bad hex digits in --send-raw item 0x%02llX", type);
+            value[n++] = uint8_t(hi << 4 | lo);
         }
+        if (build) add(uint8_t(type), value, n);
         p = comma ? comma + 1 : end;
     }
     return kExitOk;
 }
 
-int checkRaw(Step& st) {
-    int count;
-    return parseRaw(st.arg[0], &st.n[0], &st.n[1], gRaw, &count);
-}
+int checkRaw(Step& st) { return parseRaw(st.arg[0], &st.n[0], &st.n[1], false); }
 
 int runRaw(Cli& c, Step& st) {
-    int count = 0;
     long long svc, id;
-    parseRaw(st.arg[0], &svc, &id, gRaw, &count);
-    bool control = svc == ZOVQMI_SERVICE_CTL;
-    uint16_t tx = uint16_t(zovQMIMSMGetNextTransactionID());
-    int n;
-    if (control) {
-        const uint8_t h[6] = {0, uint8_t(tx), uint8_t(id), uint8_t(id >> 8), 0, 0};
-        memcpy(gReq, h, 6);
-        n = 6;
-    } else {
-        const uint8_t h[7] = {0, uint8_t(tx), uint8_t(tx >> 8), uint8_t(id), uint8_t(id >> 8), 0, 0};
-        memcpy(gReq, h, 7);
-        n = 7;
-    }
-    static QmiTlvRecord tlv;
-    for (int i = 0; i < count && n >= 0; ++i) {
-        tlv.type = gRaw[i].type;
-        uint8_t* len = reinterpret_cast<uint8_t*>(&tlv.length);
-        len[0] = uint8_t(gRaw[i].len), len[1] = uint8_t(gRaw[i].len >> 8);  // the record keeps little-endian bytes
-        memcpy(tlv.value, gRaw[i].value, gRaw[i].len);
-        n = control ? zovQMIMSMControlAddTLV(gReq, sizeof gReq, &tlv) : zovQMIMSMMessageAddTLV(gReq, sizeof gReq, &tlv);
-    }
-    int rc = c.s.request(uint8_t(svc), gReq, n, &gM);
+    parseRaw(st.arg[0], &svc, &id, true);
+    char w[48];
+    snprintf(w, sizeof w, "raw request 0x%04llX", id);
+    int rc = c.s.request(uint8_t(svc), gReq, gReqLen, &gM);
     if (rc != kOk) return rc;
-    // The items of the answer, walked with every length checked.
-    int head = control ? 6 : 7;
-    const char* what = "raw request";
-    if (gM.len < head) return bad(c, what, "shorter than its header");
-    int area = le16(gM.bytes + head - 2);
-    if (head + area > gM.len) return bad(c, what, "items longer than the message");
-    const uint8_t* p = gM.bytes + head;
-    QmiResult r = {};
-    bool hasResult = false;
+    if (!items()) return bad(c, w, "items longer than the message");
+    // Every item, walked with every length checked.
     static char hex[2 * kMaxMessage + 1];
     c.out.open("raw");
     c.out.openArray("items");
-    for (int off = 0; off < area;) {
-        if (off + 3 > area) return bad(c, what, "item header cut short");
-        uint8_t type = p[off];
-        int len = le16(p + off + 1);
-        if (off + 3 + len > area) return bad(c, what, "item longer than the message");
-        hexOut(p + off + 3, len, hex);
+    for (int off = 0; off < gAreaLen;) {
+        if (off + 3 > gAreaLen) return bad(c, w, "item header cut short");
+        uint8_t type = gArea[off];
+        int len = le16(gArea + off + 1);
+        if (off + 3 + len > gAreaLen) return bad(c, w, "item longer than the message");
+        hexOut(gArea + off + 3, len, hex);
         c.out.open(nullptr);
         c.out.jnum("type", type);
         c.out.jstr("value", hex);
         c.out.close();
         c.out.text("item 0x%02X (%d bytes): %s\n", type, len, hex);
-        if (type == 0x02 && len >= 4) {
-            memcpy(&r, p + off + 3, 4);
-            hasResult = true;
-        }
         off += 3 + len;
     }
     c.out.close();
     c.out.close();
-    char w[48];
-    snprintf(w, sizeof w, "raw request 0x%04llX", id);
-    if (!hasResult) return bad(c, w, "no result item");
-    return c.s.check(w, 0, r);
+    return result(c, w);
 }
 
 }  // namespace
