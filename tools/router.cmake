@@ -37,6 +37,15 @@ function(zovqmi_router_needed_test target)
   endif()
 endfunction()
 
+# A test that the stripped program fits its budget on the target routers
+# (32-bit little-endian MIPS; tools/footprint.sh reports the same figure).
+function(zovqmi_router_size_test target budget)
+  if(ZOVQMI_BUILD_TESTS AND CMAKE_SYSTEM_PROCESSOR STREQUAL "mipsel")
+    add_test(NAME ${target}_stripped_fits_${budget}_bytes
+      COMMAND ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/check_size.sh ${CMAKE_STRIP} $<TARGET_FILE:${target}> ${budget})
+  endif()
+endfunction()
+
 # The cross legs run the router tools under qemu-user against the simulated
 # modem built for the build host (scripts/test.sh builds it first).
 if(CMAKE_CROSSCOMPILING)
