@@ -31,6 +31,9 @@ for leg in "${legs[@]}"; do
       [ -f /usr/include/fuse3/fuse.h ] || need+=(libfuse3-dev)
       command -v fusermount3 >/dev/null || need+=(fuse3)
       command -v pkg-config >/dev/null || need+=(pkg-config)
+      # the simulator's data path test: ping and ip in a private network namespace
+      command -v ping >/dev/null || need+=(iputils-ping)
+      command -v ip >/dev/null || need+=(iproute2)
       ;;
     mipsel|mips)
       command -v "$leg-linux-gnu-g++" >/dev/null || need+=("g++-$leg-linux-gnu")

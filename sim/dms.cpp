@@ -16,8 +16,7 @@ const char* const kMeid = "A1000012345678";
 const char* const kIccid = "8944500102198304826";
 const char* const kImsi = "001010123456789";
 
-// Registration flags of a DMS client (SetEventReport).
-enum : uint32_t { kRegPower = 1, kRegPin = 2, kRegMode = 4, kRegUim = 8 };
+constexpr uint32_t kRegPower = kDmsRegPower, kRegPin = kDmsRegPin, kRegMode = kDmsRegMode, kRegUim = kDmsRegUim;
 
 Pin& pinById(State& st, uint8_t id) {
     if (id == 1) return st.pin1;
@@ -50,6 +49,7 @@ void checkPin(State& st, Pin& p, const std::string& code) {
 }
 
 Reply pinRequest(State& st, const Req& r) {
+    if (!st.simPresent) return fail(kErrDeviceNotReady);
     Val v = r.need(0x01);
     Pin& p = pinById(st, v.u8(0));
     try {
@@ -103,6 +103,13 @@ Reply pinRequest(State& st, const Req& r) {
 
 }  // namespace
 
+uint8_t uimState(const State& st) { return st.simPresent ? 0x00 : 0x02; }
+
+void simChanged(State& st) {
+    st.indicateRegistered(ZOVQMI_SERVICE_DMS, kRegUim, 0x0001, {{0x15, W().u8(uimState(st))}});
+    if (st.simPresent) pinChanged(st);
+}
+
 Reply handleDms(State& st, const Req& r) {
     Client& me = *st.client(ZOVQMI_SERVICE_DMS, r.client);
     switch (r.id) {
@@ -137,13 +144,8 @@ Reply handleDms(State& st, const Req& r) {
         if (mode == st.operatingMode) return ok();
         st.operatingMode = mode == 4 ? 0 : mode;
         st.indicateRegistered(ZOVQMI_SERVICE_DMS, kRegMode, 0x0001, {{0x14, W().u8(st.operatingMode)}});
-        st.indicateRegistered(ZOVQMI_SERVICE_NAS, 2, 0x0024, {{0x01, nasServingSystem(st)}});
-        if (!st.online())
-            for (auto it = st.calls.begin(); it != st.calls.end();) {
-                st.indicate(ZOVQMI_SERVICE_WDS, it->second.client, 0x0022,
-                            {{0x01, W().u8(1).u8(0)}, {0x10, W().u16(3)}, {0x11, W().u16(1).u16(3)}});
-                it = st.calls.erase(it);
-            }
+        servingSystemChanged(st);
+        if (!st.online()) endCalls(st, kEndNoService, 1, 3);
         return ok();
     }
     case 0x002F: {  // GetTime: 1.25 ms units since 1980-01-06 in 6 bytes, source 1
@@ -163,7 +165,8 @@ Reply handleDms(State& st, const Req& r) {
     }
     case 0x0027: case 0x0028: case 0x0029: case 0x002A:
         return pinRequest(st, r);
-    case 0x002B:  // UIMGetPINStatus
+    case 0x002B:  // UIMGetPINStatus: only with a SIM in the slot
+        if (!st.simPresent) return fail(kErrDeviceNotReady);
         return ok({{0x11, W().u8(st.pin1.status()).u8(st.pin1.left).u8(st.pin1.pukLeft)},
                    {0x12, W().u8(st.pin2.status()).u8(st.pin2.left).u8(st.pin2.pukLeft)}});
     case 0x0034: return ok({{0x01, W().u8(st.userLock)}});
@@ -181,14 +184,16 @@ Reply handleDms(State& st, const Req& r) {
     }
     case 0x003B:  // ValidateServiceProgrammingCode: "000000"
         return r.need(0x01).str(0, 6) == "000000" ? ok() : fail(kErrIncorrectPin);
-    case 0x003C: return ok({{0x01, W().str(kIccid)}});
+    case 0x003C:  // UIMGetICCID
+        if (!st.simPresent) return fail(kErrDeviceNotReady);
+        return ok({{0x01, W().str(kIccid)}});
     case 0x0040:  // UIMGetCKStatus: every facility is deactivated
         r.need(0x01).u8(0);
         return ok({{0x01, W().u8(0).u8(3).u8(10)}});
     case 0x0043:
         if (!st.simReady()) return fail(kErrDeviceNotReady);
         return ok({{0x01, W().str(kImsi)}});
-    case 0x0044: return ok({{0x01, W().u8(0x00)}});  // UIMGetState: initialised
+    case 0x0044: return ok({{0x01, W().u8(uimState(st))}});  // UIMGetState: initialised or absent
     default:
         return fail(kErrInvalidQmiCommand);
     }

@@ -2,6 +2,7 @@
 #include "modem.h"
 
 #include <chrono>
+#include <cstdio>
 
 #include "state.h"
 
@@ -159,6 +160,7 @@ size_t Modem::clientCount(uint8_t service) const {
 void Modem::disconnect(int conn, bool releaseIds) {
     std::lock_guard<std::mutex> lock(mutex_);
     State& st = *state_;
+    st.powerSaveReporting.erase(conn);
     for (auto it = st.clients.begin(); it != st.clients.end();) {
         if (it->second.conn == conn && !releaseIds) {
             it->second.conn = -1;
@@ -224,13 +226,15 @@ std::vector<Frame> Modem::receive(int conn, const uint8_t* frame, size_t len) {
         reply(fail(kErrMalformedMessage));
         return out;
     }
-    if (st.options.silent.count({service, id})) return out;
+    if (st.options.silent.count({service, id}) || st.stalled) return out;
 
     Req r{conn, service, client, tx, id, control, msg + hdr, areaLen};
     Reply result;
+    bool unknownClient = false;
     try {
         if (!control) {
             Client* c = st.client(service, client);
+            unknownClient = !c;
             if (!c) throw Fail{kErrInvalidClientId};
             c->conn = conn;  // indications go where the client id is used
         }
@@ -250,9 +254,211 @@ std::vector<Frame> Modem::receive(int conn, const uint8_t* frame, size_t len) {
         st.after.clear();
     }
     reply(result);
+    if (unknownClient) {
+        // The error result, then the control indication that names the id.
+        Bytes ind = buildMessage(true, kCtlIndication, 0, 0x0025, {{0x01, W().u8(service).u8(client)}});
+        out.push_back(Frame{conn, qmuxFrame(ZOVQMI_SERVICE_CTL, 0, ind)});
+    }
     out.insert(out.end(), st.after.begin(), st.after.end());
     st.after.clear();
     return out;
+}
+
+namespace {
+
+// Takes the indications queued by a change; a hung modem sends none.
+std::vector<Frame> takeAfter(State& st) {
+    std::vector<Frame> out;
+    if (!st.stalled) out.swap(st.after);
+    st.after.clear();
+    return out;
+}
+
+const char* serviceName(uint8_t service) {
+    switch (service) {
+    case ZOVQMI_SERVICE_WDS: return "wds";
+    case ZOVQMI_SERVICE_DMS: return "dms";
+    case ZOVQMI_SERVICE_NAS: return "nas";
+    case ZOVQMI_SERVICE_QOS: return "qos";
+    case ZOVQMI_SERVICE_WMS: return "wms";
+    case ZOVQMI_SERVICE_PDS: return "pds";
+    case ZOVQMI_SERVICE_PBM: return "pbm";
+    default: return nullptr;
+    }
+}
+
+const char* pinName(const Pin& p) {
+    switch (p.status()) {
+    case 1: return "enabled-not-verified";
+    case 2: return "enabled-verified";
+    case 3: return "disabled";
+    case 4: return "blocked";
+    case 5: return "permanently-blocked";
+    default: return "unknown";
+    }
+}
+
+std::string jsonString(const std::string& s) {
+    std::string out = "\"";
+    for (unsigned char ch : s) {
+        if (ch == '"' || ch == '\\') {
+            out += '\\';
+            out += char(ch);
+        } else if (ch < 0x20 || ch >= 0x7F) {
+            char esc[8];
+            std::snprintf(esc, sizeof esc, "\\u%04x", ch);
+            out += esc;
+        } else {
+            out += char(ch);
+        }
+    }
+    return out + "\"";
+}
+
+}  // namespace
+
+std::vector<Frame> Modem::dropCalls(int reason) {
+    std::lock_guard<std::mutex> lock(mutex_);
+    State& st = *state_;
+    st.after.clear();
+    if (reason < 0)
+        endCalls(st, kEndFade, 6, 36);  // 3GPP cause 36, regular deactivation by the network
+    else
+        endCalls(st, uint16_t(reason), 0, 0);
+    return takeAfter(st);
+}
+
+std::vector<Frame> Modem::setNetwork(bool registered) {
+    std::lock_guard<std::mutex> lock(mutex_);
+    State& st = *state_;
+    st.after.clear();
+    if (st.network == registered) return {};
+    st.network = registered;
+    servingSystemChanged(st);
+    if (!st.registered()) endCalls(st, kEndNoService, 1, 3);
+    return takeAfter(st);
+}
+
+std::vector<Frame> Modem::setSignal(int dbm) {
+    std::lock_guard<std::mutex> lock(mutex_);
+    State& st = *state_;
+    st.after.clear();
+    if (st.signalDbm == dbm) return {};
+    st.signalDbm = dbm;
+    // The event report of clients that asked for signal strength: dBm and radio (LTE).
+    st.indicateRegistered(ZOVQMI_SERVICE_NAS, kNasRegSignal, 0x0002,
+                          {{0x10, W().u8(uint8_t(int8_t(dbm))).u8(8)}});
+    return takeAfter(st);
+}
+
+void Modem::setStalled(bool stalled) {
+    std::lock_guard<std::mutex> lock(mutex_);
+    state_->stalled = stalled;
+}
+
+std::vector<Frame> Modem::setSim(bool present) {
+    std::lock_guard<std::mutex> lock(mutex_);
+    State& st = *state_;
+    st.after.clear();
+    if (st.simPresent == present) return {};
+    st.simPresent = present;
+    st.pin1.verified = false;  // a SIM that comes back is powered up afresh
+    st.pin2.verified = false;
+    simChanged(st);
+    servingSystemChanged(st);
+    if (!present) endCalls(st, kEndNoService, 1, 3);
+    return takeAfter(st);
+}
+
+std::vector<Frame> Modem::reset() {
+    std::lock_guard<std::mutex> lock(mutex_);
+    State& st = *state_;
+    st.after.clear();
+    std::set<int> conns;
+    for (auto& kv : st.clients)
+        if (kv.second.conn >= 0) conns.insert(kv.second.conn);
+    st.clients.clear();
+    st.calls.clear();
+    st.flows.clear();
+    st.powerSaveReporting.clear();
+    st.traffic = Traffic();
+    st.operatingMode = 0;
+    st.pin1.verified = st.pin2.verified = false;
+    st.stalled = false;
+    std::vector<Frame> out;
+    Bytes sync = buildMessage(true, kCtlIndication, 0, 0x0027, {});
+    for (int conn : conns) out.push_back(Frame{conn, qmuxFrame(ZOVQMI_SERVICE_CTL, 0, sync)});
+    return out;
+}
+
+void Modem::reboot() {
+    std::lock_guard<std::mutex> lock(mutex_);
+    Options options = state_->options;
+    state_.reset(new State(options));
+}
+
+std::string Modem::status(int opens) const {
+    std::lock_guard<std::mutex> lock(mutex_);
+    const State& st = *state_;
+    std::string j = "{\"registered\":";
+    j += st.registered() ? "true" : "false";
+    j += ",\"stalled\":";
+    j += st.stalled ? "true" : "false";
+    j += ",\"signal_dbm\":" + std::to_string(st.signalDbm);
+    j += ",\"sim\":";
+    j += st.simPresent ? "\"present\"" : "\"absent\"";
+    j += ",\"pin1\":\"";
+    j += st.simPresent ? pinName(st.pin1) : "unknown";
+    j += "\",\"clients\":{";
+    static const uint8_t services[] = {ZOVQMI_SERVICE_WDS, ZOVQMI_SERVICE_DMS, ZOVQMI_SERVICE_NAS,
+                                       ZOVQMI_SERVICE_QOS, ZOVQMI_SERVICE_WMS, ZOVQMI_SERVICE_PDS,
+                                       ZOVQMI_SERVICE_PBM};
+    bool firstService = true;
+    for (uint8_t service : services) {
+        j += firstService ? "" : ",";
+        firstService = false;
+        j += "\"" + std::string(serviceName(service)) + "\":[";
+        bool first = true;
+        for (auto& kv : st.clients) {
+            if (kv.first.first != service) continue;
+            j += first ? "" : ",";
+            first = false;
+            j += std::to_string(kv.first.second);
+        }
+        j += "]";
+    }
+    j += "},\"calls\":[";
+    bool first = true;
+    for (auto& kv : st.calls) {
+        j += first ? "" : ",";
+        first = false;
+        j += "{\"client\":" + std::to_string(kv.second.client) + ",\"handle\":" + std::to_string(kv.second.handle) +
+             ",\"family\":" + std::to_string(kv.second.family) + ",\"apn\":" + jsonString(kv.second.settings.apn) +
+             "}";
+    }
+    j += "],\"opens\":" + std::to_string(opens);
+    j += ",\"pin1_retries\":" + std::to_string(st.simPresent ? st.pin1.left : 0);
+    j += ",\"puk1_retries\":" + std::to_string(st.simPresent ? st.pin1.pukLeft : 0);
+    j += ",\"tx_packets\":" + std::to_string(st.traffic.txPackets);
+    j += ",\"rx_packets\":" + std::to_string(st.traffic.rxPackets);
+    j += ",\"dropped_packets\":" + std::to_string(st.traffic.txDropped);
+    return j + "}";
+}
+
+std::vector<Frame> Modem::tick() {
+    std::lock_guard<std::mutex> lock(mutex_);
+    State& st = *state_;
+    st.after.clear();
+    uint64_t now = st.nowMs();
+    for (auto& [key, c] : st.clients) {
+        if (key.first != ZOVQMI_SERVICE_WDS || c.statsPeriod == 0 || c.statsMask == 0) continue;
+        if (now - c.statsSentMs < uint64_t(c.statsPeriod) * 1000) continue;
+        c.statsSentMs = now;
+        bool inCall = false;
+        for (auto& kv : st.calls) inCall = inCall || kv.second.client == key.second;
+        if (inCall) st.indicate(ZOVQMI_SERVICE_WDS, key.second, 0x0001, trafficItems(st.traffic, c.statsMask));
+    }
+    return takeAfter(st);
 }
 
 std::vector<Frame> Modem::deliverSms(const Bytes& pdu) {
@@ -263,9 +469,7 @@ std::vector<Frame> Modem::deliverSms(const Bytes& pdu) {
     uint32_t index = store.empty() ? 0 : store.rbegin()->first + 1;
     store[index] = Sms{1, 6, pdu};
     st.indicateRegistered(ZOVQMI_SERVICE_WMS, 1, 0x0001, {{0x10, W().u8(1).u32(index)}});
-    std::vector<Frame> out;
-    out.swap(st.after);
-    return out;
+    return takeAfter(st);
 }
 
 // ------------------------------------------------------------------ CTL --
@@ -317,15 +521,23 @@ Reply handleCtl(State& st, const Req& r) {
             }
         }
         return ok();
-    case 0x0028:  // RegPwrSaveMode
-        r.need(0x01).u8(0);
+    case 0x0028:  // RegPwrSaveMode: 1 reports changes of the power-save mode to this connection
+        if (r.need(0x01).u8(0)) st.powerSaveReporting.insert(r.conn);
+        else st.powerSaveReporting.erase(r.conn);
         return ok();
     case 0x0029:  // ConfigPwrSaveSettings
         r.need(0x01).need(0, 5);
         return ok();
-    case 0x002A:  // SetPwrSaveMode
-        st.powerSaveMode = r.need(0x01).u32(0);
+    case 0x002A: {  // SetPwrSaveMode
+        uint32_t mode = r.need(0x01).u32(0);
+        if (mode != st.powerSaveMode) {
+            // The indication reports the state left and the state entered.
+            Bytes ind = buildMessage(true, kCtlIndication, 0, 0x0028, {{0x10, W().u32(st.powerSaveMode).u32(mode)}});
+            for (int conn : st.powerSaveReporting) st.after.push_back(Frame{conn, qmuxFrame(0, 0, ind)});
+            st.powerSaveMode = mode;
+        }
         return ok();
+    }
     case 0x002B:  // GetPwrSaveMode
         return ok({{0x01, W().u32(st.powerSaveMode)}});
     default:

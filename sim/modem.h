@@ -10,8 +10,9 @@
 //
 // Every request gets an answer: a request the modem does not know, or a
 // malformed one, is answered with a failure result (result 1 and a QMI
-// error code).  The only exception is a message listed in Options::silent,
-// which lets tests exercise a caller's timeout.
+// error code).  The exceptions are a message listed in Options::silent,
+// which lets tests exercise a caller's timeout, and a stalled modem (see
+// setStalled), which answers nothing at all.
 #pragma once
 
 #include <cstdint>
@@ -57,11 +58,19 @@ enum QmiError : uint16_t {
     kErrInvalidQmiCommand = 0x0047,
 };
 
+// Call end reasons the modem gives.
+constexpr uint16_t kEndClient = 2;         // the client stopped the call
+constexpr uint16_t kEndNoService = 3;      // no network service
+constexpr uint16_t kEndFade = 4;           // the radio link faded
+constexpr uint16_t kEndAuth = 1014;        // authentication failed
+
 // Name of an error code ("IncorrectPin"), or "Unknown".
 const char* errorName(uint16_t code);
 
 struct Options {
     std::string pin1 = "1234";
+    // PIN1 protection: enabled (and not verified) at power-up, or disabled.
+    bool pin1Enabled = true;
     std::string puk1 = "12345678";
     // An APN that needs credentials, and the credentials it accepts.
     std::string secureApn = "secure.example";
@@ -101,6 +110,37 @@ public:
 
     // Client ids currently allocated for a service.
     size_t clientCount(uint8_t service) const;
+
+    // ---- faults and the environment (the control channel) --------------
+    // Each returns the indications to deliver (none while stalled).
+
+    // Ends every active call; a negative reason gives the network-side
+    // default (fade, with the 3GPP cause "regular deactivation").
+    std::vector<Frame> dropCalls(int reason = -1);
+    // The network accepts the modem or not.
+    std::vector<Frame> setNetwork(bool registered);
+    // The signal level from now on; clients that asked hear of it.
+    std::vector<Frame> setSignal(int dbm);
+    // A hung modem: requests are read and never answered.
+    void setStalled(bool stalled);
+    // The SIM leaves or returns to its slot.
+    std::vector<Frame> setSim(bool present);
+    // Restart in place: every client id and call is forgotten, PIN1 must be
+    // verified again; each connection that held client ids gets a CTL Sync
+    // indication.
+    std::vector<Frame> reset();
+    // A fresh power-up: everything but the options is forgotten.
+    void reboot();
+    // The state as one line of JSON; `opens` is the transport's count of
+    // open device descriptors.
+    std::string status(int opens) const;
+
+    // Periodic work (transfer statistics reports); call it a few times a second.
+    std::vector<Frame> tick();
+
+    // One IP packet the host sent into the modem's network interface.
+    // Returns the packet the modem sends back (an echo reply), or nothing.
+    Bytes dataPacket(const uint8_t* packet, size_t len);
 
 private:
     mutable std::mutex mutex_;

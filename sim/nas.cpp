@@ -8,19 +8,25 @@ namespace {
 constexpr uint16_t kMcc = 1, kMnc = 1;
 const char* const kHomeName = "ZovNet";
 
-// Registration flags of a NAS client.
-enum : uint32_t { kRegSignal = 1, kRegServing = 2 };
+constexpr uint32_t kRegSignal = kNasRegSignal, kRegServing = kNasRegServing;
 
 }  // namespace
 
 Bytes nasServingSystem(const State& st) {
-    uint8_t reg = st.online() ? 1 : 0;  // registered or not
+    // Registration state: 1 registered, 2 searching (the network is gone),
+    // 0 not registered and not searching (offline or no SIM).
+    bool reg = st.registered();
+    uint8_t state = reg ? 1 : (st.online() && st.simPresent) ? 2 : 0;
     W w;
     // CS and PS attached (PS detached on request), 3GPP network
-    w.u8(reg).u8(reg ? 1 : 2).u8(reg && !st.psDetached ? 1 : 2).u8(2);
-    if (reg) w.u8(1).u8(8);                            // LTE
+    w.u8(state).u8(reg ? 1 : 2).u8(reg && !st.psDetached ? 1 : 2).u8(2);
+    if (reg) w.u8(1).u8(8);                                          // LTE
     else w.u8(0);
     return w;
+}
+
+void servingSystemChanged(State& st) {
+    st.indicateRegistered(ZOVQMI_SERVICE_NAS, kRegServing, 0x0024, {{0x01, nasServingSystem(st)}});
 }
 
 Reply handleNas(State& st, const Req& r) {
@@ -44,11 +50,12 @@ Reply handleNas(State& st, const Req& r) {
         if (r.has(0x13, &v)) reg = v.u8(0) ? reg | kRegServing : reg & ~kRegServing;
         return ok();
     }
-    case 0x0020: {  // GetSignalStrength: -67 dBm on LTE
+    case 0x0020: {  // GetSignalStrength: the level set (-67 dBm at power-up) on LTE
         if (!st.online()) return fail(kErrNoNetworkFound);
-        return ok({{0x01, W().u8(uint8_t(-67)).u8(8)},
-                   {0x10, W().u16(1).u8(uint8_t(-67)).u8(8)},
-                   {0x11, W().u16(1).u8(67).u8(8)},
+        uint8_t dbm = uint8_t(int8_t(st.signalDbm));
+        return ok({{0x01, W().u8(dbm).u8(8)},
+                   {0x10, W().u16(1).u8(dbm).u8(8)},
+                   {0x11, W().u16(1).u8(uint8_t(-st.signalDbm)).u8(8)},
                    {0x12, W().u16(1).u8(10).u8(8)},
                    {0x14, W().u8(6)}});
     }
@@ -72,7 +79,7 @@ Reply handleNas(State& st, const Req& r) {
         return ok();
     }
     case 0x0023: {  // InitiateAttach: PS attach action 1 attach, 2 detach
-        if (!st.online()) return fail(kErrNoNetworkFound);
+        if (!st.registered()) return fail(kErrNoNetworkFound);
         Val v;
         uint8_t action = r.has(0x10, &v) ? v.u8(0) : 1;
         if (action != 1 && action != 2) return fail(kErrInvalidArgument);
@@ -83,7 +90,7 @@ Reply handleNas(State& st, const Req& r) {
     }
     case 0x0024: {  // GetServingSystem
         Tlvs t = {{0x01, nasServingSystem(st)}};
-        if (st.online()) {
+        if (st.registered()) {
             t.push_back({0x10, W().u8(1)});                       // roaming off
             t.push_back({0x11, W().u8(2).u8(5).u8(11)});          // data capabilities
             t.push_back({0x12, W().u16(kMcc).u16(kMnc).str8(kHomeName)});
@@ -93,7 +100,7 @@ Reply handleNas(State& st, const Req& r) {
     case 0x0025:  // GetHomeNetwork
         return ok({{0x01, W().u16(kMcc).u16(kMnc).str8(kHomeName)}});
     case 0x0031:  // GetRFBandInfo: LTE band 3 (band class 122), EARFCN 1300
-        if (!st.online()) return fail(kErrNoNetworkFound);
+        if (!st.registered()) return fail(kErrNoNetworkFound);
         return ok({{0x01, W().u8(1).u8(8).u16(122).u16(1300)}});
     case 0x0033: {  // SetSystemSelectionPreference
         Val v;

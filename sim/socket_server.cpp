@@ -41,6 +41,18 @@ void SocketServer::deliver(const std::vector<Frame>& frames) {
     send(frames);
 }
 
+int SocketServer::opens() {
+    std::lock_guard<std::mutex> lock(mutex_);
+    return int(fds_.size());
+}
+
+std::string SocketServer::vanish(int) {
+    std::lock_guard<std::mutex> lock(mutex_);
+    for (int fd : fds_) shutdown(fd, SHUT_RDWR);
+    modem_.reboot();
+    return "";
+}
+
 void SocketServer::send(const std::vector<Frame>& frames) {
     for (const Frame& f : frames)
         if (std::find(fds_.begin(), fds_.end(), f.conn) != fds_.end())

@@ -8,14 +8,15 @@
 #include <thread>
 #include <vector>
 
+#include "control.h"
 #include "modem.h"
 
 namespace zovsim {
 
-class SocketServer {
+class SocketServer : public Device {
 public:
     explicit SocketServer(Modem& modem);
-    ~SocketServer();
+    ~SocketServer() override;
     SocketServer(const SocketServer&) = delete;
     SocketServer& operator=(const SocketServer&) = delete;
 
@@ -24,7 +25,12 @@ public:
     int connect();
 
     // Delivers frames the modem produced outside a request (deliverSms).
-    void deliver(const std::vector<Frame>& frames);
+    void deliver(const std::vector<Frame>& frames) override;
+    // The connections open now.
+    int opens() override;
+    // There is no node to take away: every connection is shut down at once
+    // (its reads return end of file) and the modem boots afresh.
+    std::string vanish(int ms) override;
 
 private:
     void run();

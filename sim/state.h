@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <cstring>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -114,6 +115,12 @@ inline Reply fail(uint16_t e, Tlvs t = {}) { return Reply{e, std::move(t)}; }
 struct Client {
     int conn;
     std::map<uint8_t, uint32_t> reg;
+    // WDS: the IP family preference (4, 6, or 8 "unspecified", which is 4)
+    // and the transfer statistics report (period in seconds, mask, last sent).
+    uint8_t ipFamily = 4;
+    uint8_t statsPeriod = 0;
+    uint32_t statsMask = 0;
+    uint64_t statsSentMs = 0;
 };
 
 // ---- per-service state --------------------------------------------------
@@ -147,6 +154,9 @@ struct Call {
     uint32_t handle = 0;
     uint8_t client = 0;
     uint8_t profile = 0;
+    uint8_t family = 4;  // 4 or 6
+    uint8_t slot = 1;    // which address of the family's plan the call holds
+    Bytes address;       // 4 or 16 bytes, the call's own address
     Profile settings;
     uint64_t startMs = 0;
 };
@@ -170,10 +180,20 @@ struct QosFlow {
     uint8_t status;  // 1 activated, 2 suspended
 };
 
+// Counters of the data path since the modem booted (shared by every client):
+// uplink packets are those the host sends to the network, downlink those the
+// modem hands to the host; uplink packets without a call to carry them are
+// dropped and counted as transmit errors.
+struct Traffic {
+    uint32_t txPackets = 0, rxPackets = 0, txDropped = 0, rxDropped = 0;
+    uint64_t txBytes = 0, rxBytes = 0;
+};
+
 struct State {
     explicit State(const Options& o) : options(o) {
         pin1.code = o.pin1;
         pin1.puk = o.puk1;
+        pin1.enabled = o.pin1Enabled;
         pin2.code = "0000";
         pin2.puk = "00000000";
     }
@@ -181,8 +201,18 @@ struct State {
     Options options;
     std::map<std::pair<uint8_t, uint8_t>, Client> clients;  // (service, client id)
 
+    // The radio environment, set through the control channel: whether the
+    // network accepts the modem, the signal level, the SIM in its slot, and
+    // a hung modem that reads requests but answers none.
+    bool network = true;
+    int signalDbm = -67;
+    bool simPresent = true;
+    bool stalled = false;
+    Traffic traffic;
+
     // CTL
     uint32_t powerSaveMode = 0;
+    std::set<int> powerSaveReporting;  // connections that asked for power-save indications
     // DMS
     uint8_t operatingMode = 0;  // online
     Pin pin1, pin2;
@@ -226,7 +256,9 @@ struct State {
     void indicateRegistered(uint8_t service, uint32_t mask, uint16_t id, const Tlvs& tlvs);
     uint64_t nowMs() const;
     bool online() const { return operatingMode == 0; }
-    bool simReady() const { return !pin1.enabled || pin1.verified; }
+    bool simReady() const { return simPresent && (!pin1.enabled || pin1.verified); }
+    // Registered with the network: online, a SIM in the slot and the network there.
+    bool registered() const { return online() && simPresent && network; }
     Client* client(uint8_t service, uint8_t id) {
         auto it = clients.find({service, id});
         return it == clients.end() ? nullptr : &it->second;
@@ -251,5 +283,26 @@ Bytes nasServingSystem(const State& st);
 
 // Releases what a client held in the services (calls, flows).
 void releaseWdsClient(State& st, uint8_t client);
+
+// Ends every call and tells each owner with a packet service status
+// indication carrying the end reason; a verbose reason type 0 leaves the
+// verbose item out.
+void endCalls(State& st, uint16_t reason, uint16_t verboseType, uint16_t verboseReason);
+
+// Registration flags of a NAS client.
+enum : uint32_t { kNasRegSignal = 1, kNasRegServing = 2 };
+// Registration flags of a DMS client (SetEventReport).
+enum : uint32_t { kDmsRegPower = 1, kDmsRegPin = 2, kDmsRegMode = 4, kDmsRegUim = 8 };
+
+// The serving system changed: registered NAS clients hear of it.
+void servingSystemChanged(State& st);
+// The SIM came or went: registered DMS clients hear of its state and PIN1.
+void simChanged(State& st);
+// The UIM state byte: 0 initialised, 2 not present.
+uint8_t uimState(const State& st);
+
+// Transfer statistics report items selected by a mask (bit 0 TLV 0x10 ...
+// bit 5 TLV 0x15, bit 6 TLV 0x19, bit 7 TLV 0x1A).
+Tlvs trafficItems(const Traffic& t, uint32_t mask);
 
 }  // namespace zovsim
