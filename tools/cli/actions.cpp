@@ -956,36 +956,55 @@ int runRuntime(Cli& c, Step&) {
     add32(0x10, 0xFFFF);  // every setting the modem has
     int rc = ask(c, kWds, "runtime settings");
     if (rc != kOk) return rc;
-    char name[128], apn[128], a6[48] = "";
+    char name[128], apn[128];
     text(0x10, name, sizeof name);
     text(0x14, apn, sizeof apn);
-    Item profile = item(0x1F), v6 = item(0x25);
+    Item profile = item(0x1F);
     static const struct {
         uint8_t type;
         const char* key;
         const char* label;
-    } addresses[] = {{0x1E, "ipv4", "IPv4 address"}, {0x20, "gateway", "gateway"}, {0x21, "subnet_mask", "subnet mask"}};
+    } addresses[] = {{0x1E, "ipv4", "IPv4 address"}, {0x20, "gateway", "gateway"}, {0x21, "subnet_mask", "subnet mask"}},
+      addresses6[] = {{0x25, "ipv6", "IPv6 address"}, {0x26, "ipv6_gateway", "IPv6 gateway"}};
     c.out.open("runtime_settings");
     if (profile.has(0, 2)) c.out.jnum("profile", profile.u8(1));
     c.out.jstr("profile_name", name);
     c.out.text("profile: %d (%s)\n", profile.has(0, 2) ? profile.u8(1) : -1, name);
     c.out.str("apn", "APN", apn);
-    char t[2][20];
-    for (const auto& a : addresses) {
-        ipv4Text(item(a.type).u32(0), t[0], sizeof t[0]);
-        c.out.str(a.key, a.label, t[0]);
+    char t[2][48];
+    // IPv4 settings when the call has IPv4, IPv6 settings when it has IPv6.
+    if (item(0x1E).has(0, 4)) {
+        for (const auto& a : addresses) {
+            ipv4Text(item(a.type).u32(0), t[0], sizeof t[0]);
+            c.out.str(a.key, a.label, t[0]);
+        }
+        ipv4Text(item(0x15).u32(0), t[0], sizeof t[0]);
+        ipv4Text(item(0x16).u32(0), t[1], sizeof t[1]);
+        c.out.openArray("dns");
+        c.out.jstr(nullptr, t[0]);
+        c.out.jstr(nullptr, t[1]);
+        c.out.close();
+        c.out.text("DNS: %s, %s\n", t[0], t[1]);
     }
-    ipv4Text(item(0x15).u32(0), t[0], sizeof t[0]);
-    ipv4Text(item(0x16).u32(0), t[1], sizeof t[1]);
-    c.out.openArray("dns");
-    c.out.jstr(nullptr, t[0]);
-    c.out.jstr(nullptr, t[1]);
-    c.out.close();
-    c.out.text("DNS: %s, %s\n", t[0], t[1]);
-    if (v6.has(0, 17)) {
-        inet_ntop(AF_INET6, v6.p, a6, sizeof a6);
-        c.out.str("ipv6", "IPv6 address", a6);
-        c.out.num("ipv6_prefix_length", "IPv6 prefix length", v6.u8(16));
+    if (item(0x25).has(0, 17)) {
+        for (const auto& a : addresses6) {
+            Item v = item(a.type);
+            if (!v.has(0, 17)) continue;
+            inet_ntop(AF_INET6, v.p, t[0], sizeof t[0]);
+            snprintf(t[0] + strlen(t[0]), sizeof t[0] - strlen(t[0]), "/%u", v.u8(16));
+            c.out.str(a.key, a.label, t[0]);
+        }
+        c.out.openArray("ipv6_dns");
+        c.out.text("IPv6 DNS:");
+        for (uint8_t type = 0x27; type <= 0x28; ++type) {
+            Item v = item(type);
+            if (!v.has(0, 16)) continue;
+            inet_ntop(AF_INET6, v.p, t[0], sizeof t[0]);
+            c.out.jstr(nullptr, t[0]);
+            c.out.text(" %s", t[0]);
+        }
+        c.out.text("\n");
+        c.out.close();
     }
     c.out.num("mtu", "MTU", item(0x29).u32(0));
     c.out.close();

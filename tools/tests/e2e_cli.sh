@@ -183,6 +183,10 @@ else
     echo "FAIL start network: $out"
     fails=$((fails + 1))
 fi
+expect "IPv6 call" 0 '"runtime_settings":\{[^}]*"ipv6":"2001:db8:[0-9a-f:]*/64"' -- \
+    -d "$d" --json --ip-family 6 --wds-start-network internet --wds-get-runtime-settings
+expect "IPv6 call in text" 0 "IPv6 address: 2001:db8:[0-9a-f:]*/64" -- \
+    -d "$d" --ip-family 6 --wds-start-network internet --wds-get-runtime-settings
 expect "client id" 0 "pds client id: [0-9]+" -- -d "$d" --get-client-id pds
 expect "unknown service" 4 "QMI error 31" -- -d "$d" --get-client-id 0x42
 expect "profiles" 0 "1: internet \(APN internet\)" -- -d "$d" --wds-list-profiles
