@@ -278,6 +278,12 @@ int runCli(int argc, char** argv) {
     }
     char error[kErrorText];
     snprintf(error, sizeof error, "%s", c.s.error());
+    if (status == kInterrupted) {
+        // The client ids are still given back: the signal's byte is taken
+        // so that the waits of the release do not end at once.
+        while (read(c.wakeFd, &stale, 1) == 1) {
+        }
+    }
     if (c.s.isOpen()) {
         if (keep) {
             for (int k = 0; k < c.s.clientCount(); ++k) {
