@@ -6,16 +6,18 @@
 # AddressSanitizer and UndefinedBehaviorSanitizer (asan, which also records
 # the messages the tests parse as fuzz seeds), the fuzz harness over every
 # parser, seeds first then a bounded run per service (fuzz), and the static
-# checks (lint: cppcheck, clang-tidy, generated tables up to date).
+# checks (lint: cppcheck, clang-tidy, generated tables up to date), and the
+# reference (docs: Doxygen with warnings as errors, every export documented,
+# the manual pages render without warnings).
 # Installs the build tools a fresh Debian machine lacks.  Fails if any leg fails.
 #
-# Usage: scripts/test.sh [host|mipsel|mips|asan|fuzz|lint ...]   (default: all)
+# Usage: scripts/test.sh [host|mipsel|mips|asan|fuzz|lint|docs ...]   (default: all)
 # ZOVQMI_FUZZ_SECONDS sets the fuzzing time per service (default 20).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 legs=("$@")
-[ ${#legs[@]} -gt 0 ] || legs=(host mipsel mips asan fuzz lint)
+[ ${#legs[@]} -gt 0 ] || legs=(host mipsel mips asan fuzz lint docs)
 
 need=()
 command -v cmake >/dev/null || need+=(cmake)
@@ -56,7 +58,13 @@ for leg in "${legs[@]}"; do
       command -v clang >/dev/null || need+=(clang)
       command -v python3 >/dev/null || need+=(python3)
       ;;
-    *) echo "unknown leg: $leg (host, mipsel, mips, asan, fuzz or lint)" >&2; exit 2 ;;
+    docs)
+      command -v doxygen >/dev/null || need+=(doxygen)
+      command -v man >/dev/null || need+=(man-db)
+      command -v groff >/dev/null || need+=(groff-base)
+      command -v python3 >/dev/null || need+=(python3)
+      ;;
+    *) echo "unknown leg: $leg (host, mipsel, mips, asan, fuzz, lint or docs)" >&2; exit 2 ;;
   esac
 done
 if [ ${#need[@]} -gt 0 ]; then
@@ -85,6 +93,7 @@ for leg in "${legs[@]}"; do
   case $leg in
     fuzz) run=(./fuzz/run.sh) ;;
     lint) run=(./scripts/lint.sh) ;;
+    docs) run=(python3 docs/check_docs.py) ;;
     *) run=(cmake --workflow --preset "$leg" --fresh) ;;
   esac
   if "${run[@]}" 2>&1 | tee "$log"; then
