@@ -3,7 +3,9 @@
 // addresses and time stamps).
 #include <string.h>
 
+#include <random>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -207,4 +209,22 @@ TEST(CliPdu, UnsupportedTypesAndCodingsAreNamedAsSuch) {
     EXPECT_EQ(rc, kPduUnsupported);
     decoded("00040B915155100003F00020521020214300000100", &rc);
     EXPECT_EQ(rc, kPduUnsupported);
+}
+
+TEST(CliPdu, RandomBytesNeverReadPastThePduOrOverrunTheText) {
+    // The decoder gets exactly the bytes it may read (a copy on the heap, so
+    // that the sanitizers see a read past them), and must return a status.
+    std::mt19937 rng(7);
+    for (int round = 0; round < 20000; ++round) {
+        size_t n = rng() % 200;
+        std::vector<uint8_t> b(n);
+        for (uint8_t& v : b) v = uint8_t(rng());
+        if (n > 2 && round % 2) b[0] = 0, b[1] = uint8_t(rng() % 2 ? 0x04 : 0x41);  // plausible heads
+        static DecodedSms sms;
+        int rc = decodePdu(b.data(), int(n), &sms);
+        ASSERT_TRUE(rc == kPduOk || rc == kPduMalformed || rc == kPduUnsupported) << rc;
+        if (rc == kPduOk) {
+            ASSERT_LT(size_t(sms.textLen), sizeof sms.text);
+        }
+    }
 }
