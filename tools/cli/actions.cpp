@@ -1327,7 +1327,7 @@ constexpr int kMaxRecords = 1000;
 void phonebook(uint16_t id, const uint8_t* more, int n) {
     begin(kPbm, id);
     uint8_t v[7] = {kPbSession, uint8_t(kPbAdn), uint8_t(kPbAdn >> 8)};
-    memcpy(v + 3, more, size_t(n));
+    if (n) memcpy(v + 3, more, size_t(n));
     add(0x01, v, 3 + n);
 }
 
