@@ -44,6 +44,9 @@ for leg in "${legs[@]}"; do
       command -v fusermount3 >/dev/null || need+=(fuse3)
       command -v pkg-config >/dev/null || need+=(pkg-config)
       command -v "qemu-$leg" >/dev/null || need+=(qemu-user)
+      # zovqmi-connect's scenarios: ping and ip in a private network namespace
+      command -v ping >/dev/null || need+=(iputils-ping)
+      command -v ip >/dev/null || need+=(iproute2)
       ;;
     asan|fuzz)
       command -v clang >/dev/null || need+=(clang)
@@ -51,6 +54,14 @@ for leg in "${legs[@]}"; do
       # libFuzzer and the sanitizer runtimes
       command -v clang >/dev/null && [ -f "$(clang -print-file-name=libclang_rt.fuzzer-x86_64.a)" ] ||
         need+=(libclang-rt-dev)
+      # the asan build runs the simulator's and zovqmi-connect's scenarios too
+      if [ "$leg" = asan ]; then
+        [ -f /usr/include/fuse3/fuse.h ] || need+=(libfuse3-dev)
+        command -v fusermount3 >/dev/null || need+=(fuse3)
+        command -v pkg-config >/dev/null || need+=(pkg-config)
+        command -v ping >/dev/null || need+=(iputils-ping)
+        command -v ip >/dev/null || need+=(iproute2)
+      fi
       ;;
     lint)
       command -v cppcheck >/dev/null || need+=(cppcheck)

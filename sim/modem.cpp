@@ -511,9 +511,10 @@ Reply handleCtl(State& st, const Req& r) {
         uint16_t protocol = r.has(0x10, &p) ? p.u16(0) : 1;
         return ok({{0x10, W().u16(protocol)}});
     }
-    case 0x0027:  // Sync: every client id of this connection is released
+    case 0x0027:  // Sync: every client id of this connection is released, and
+                  // those left behind by descriptors closed since (an earlier run)
         for (auto it = st.clients.begin(); it != st.clients.end();) {
-            if (it->second.conn == r.conn) {
+            if (it->second.conn == r.conn || it->second.conn == -1) {
                 if (it->first.first == ZOVQMI_SERVICE_WDS) releaseWdsClient(st, it->first.second);
                 it = st.clients.erase(it);
             } else {
