@@ -126,8 +126,8 @@ Reply handleDms(State& st, const Req& r) {
         me.reg[ZOVQMI_SERVICE_DMS] = reg;
         return ok();
     }
-    case 0x0020:  // GetDeviceCap: rates, data and SIM capability, radio interfaces (UMTS, LTE)
-        return ok({{0x01, W().u32(50000000).u32(150000000).u8(3).u8(1).u8(2).u8(5).u8(8)}});
+    case 0x0020:  // GetDeviceCap: rates, data service (CS and PS), SIM supported, radios (UMTS, LTE)
+        return ok({{0x01, W().u32(50000000).u32(150000000).u8(3).u8(2).u8(2).u8(5).u8(8)}});
     case 0x0021: return ok({{0x01, W().str(kManufacturer)}});
     case 0x0022: return ok({{0x01, W().str(kModel)}});
     case 0x0023: return ok({{0x01, W().str(kRevision)}});

@@ -18,8 +18,9 @@ Bytes nasServingSystem(const State& st) {
     bool reg = st.registered();
     uint8_t state = reg ? 1 : (st.online() && st.simPresent) ? 2 : 0;
     W w;
-    w.u8(state).u8(reg ? 1 : 2).u8(reg ? 1 : 2).u8(2);  // CS and PS attached, 3GPP network
-    if (reg) w.u8(1).u8(8);                              // LTE
+    // CS and PS attached (PS detached on request), 3GPP network
+    w.u8(state).u8(reg ? 1 : 2).u8(reg && !st.psDetached ? 1 : 2).u8(2);
+    if (reg) w.u8(1).u8(8);                                          // LTE
     else w.u8(0);
     return w;
 }
@@ -77,8 +78,16 @@ Reply handleNas(State& st, const Req& r) {
             return fail(kErrNoNetworkFound);
         return ok();
     }
-    case 0x0023:  // InitiateAttach
-        return st.registered() ? ok() : fail(kErrNoNetworkFound);
+    case 0x0023: {  // InitiateAttach: PS attach action 1 attach, 2 detach
+        if (!st.registered()) return fail(kErrNoNetworkFound);
+        Val v;
+        uint8_t action = r.has(0x10, &v) ? v.u8(0) : 1;
+        if (action != 1 && action != 2) return fail(kErrInvalidArgument);
+        if ((action == 2) == st.psDetached) return fail(kErrNoEffect);
+        st.psDetached = action == 2;
+        st.indicateRegistered(ZOVQMI_SERVICE_NAS, kRegServing, 0x0024, {{0x01, nasServingSystem(st)}});
+        return ok();
+    }
     case 0x0024: {  // GetServingSystem
         Tlvs t = {{0x01, nasServingSystem(st)}};
         if (st.registered()) {
@@ -90,6 +99,23 @@ Reply handleNas(State& st, const Req& r) {
     }
     case 0x0025:  // GetHomeNetwork
         return ok({{0x01, W().u16(kMcc).u16(kMnc).str8(kHomeName)}});
+    case 0x0031:  // GetRFBandInfo: LTE band 3 (band class 122), EARFCN 1300
+        if (!st.registered()) return fail(kErrNoNetworkFound);
+        return ok({{0x01, W().u8(1).u8(8).u16(122).u16(1300)}});
+    case 0x0033: {  // SetSystemSelectionPreference
+        Val v;
+        if (r.has(0x11, &v)) {
+            uint16_t modes = v.u16(0);
+            if (modes == 0 || (modes & ~0x3Fu)) return fail(kErrInvalidArgument);
+            st.modePreference = modes;
+        }
+        if (r.has(0x12, &v)) st.bandPreference = v.u64(0);
+        if (r.has(0x14, &v)) st.roamingPreference = v.u16(0);
+        return ok();
+    }
+    case 0x0034:  // GetSystemSelectionPreference
+        return ok({{0x10, W().u8(0)}, {0x11, W().u16(st.modePreference)}, {0x12, W().u64(st.bandPreference)},
+                   {0x14, W().u16(st.roamingPreference)}});
     default:
         return fail(kErrInvalidQmiCommand);
     }

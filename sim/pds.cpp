@@ -1,10 +1,12 @@
-// PDS of the simulated modem: GPS service state and single position fixes.
+// PDS of the simulated modem: GPS service state, single position fixes and
+// tracking.
 //
 // A fix is computed at once: after the response to DetermineSinglePosition
 // the requesting client gets event reports with an NMEA GGA and RMC sentence,
 // then one with the session status and the parsed position.  A client that
 // subscribed through SetEventReport gets only what it subscribed to; one that
-// never subscribed gets everything.
+// never subscribed gets everything.  Turning automatic tracking on delivers
+// five such fixes at once.
 #include <cmath>
 #include <cstdio>
 #include <ctime>
@@ -61,6 +63,34 @@ Bytes parsedPosition(const std::tm& t, uint64_t ms) {
     return w;
 }
 
+// Fixes one start of tracking delivers (the simulation has no clock of its own).
+constexpr int kTrackingBurst = 5;
+
+// Queues the event reports of one fix at `ms` for `client`: an NMEA GGA and
+// RMC sentence, then the session status with the parsed position, as far as
+// the client subscribed (everything when it never did).
+void queueFix(State& st, const Client& me, uint8_t client, uint64_t ms) {
+    std::time_t secs = std::time_t(ms / 1000);
+    std::tm t;
+    gmtime_r(&secs, &t);
+    char hms[48], date[48];
+    std::snprintf(hms, sizeof hms, "%02d%02d%02d.%02d", t.tm_hour, t.tm_min, t.tm_sec, int(ms % 1000 / 10));
+    std::snprintf(date, sizeof date, "%02d%02d%02d", t.tm_mday, t.tm_mon + 1, t.tm_year % 100);
+    std::string gga = withChecksum(std::string("GPGGA,") + hms + "," + coord(kLatitude, true) + "," +
+                                   coord(kLongitude, false) + ",1,08,0.9,34.0,M,39.2,M,,");
+    std::string rmc = withChecksum(std::string("GPRMC,") + hms + ",A," + coord(kLatitude, true) + "," +
+                                   coord(kLongitude, false) + ",0.0,0.0," + date + ",,,A");
+    auto reg = me.reg.find(ZOVQMI_SERVICE_PDS);
+    uint32_t want = reg == me.reg.end() ? (kRegNmea | kRegParsed) : reg->second;
+    if (want & kRegNmea) {
+        st.indicate(ZOVQMI_SERVICE_PDS, client, 0x0001, {{0x10, W().str(gga)}});
+        st.indicate(ZOVQMI_SERVICE_PDS, client, 0x0001, {{0x10, W().str(rmc)}});
+    }
+    if (want & kRegParsed)
+        st.indicate(ZOVQMI_SERVICE_PDS, client, 0x0001,
+                    {{0x12, W().u8(0)}, {0x13, parsedPosition(t, ms)}, {0x1C, W().u32(1)}});
+}
+
 }  // namespace
 
 Reply handlePds(State& st, const Req& r) {
@@ -92,31 +122,20 @@ Reply handlePds(State& st, const Req& r) {
         st.trackingSession = r.need(0x01).bytes(0, 10);
         return ok();
     case 0x0030: return ok({{0x01, W().u8(st.autoTracking)}});
-    case 0x0031:
-        st.autoTracking = r.need(0x01).u8(0);
+    case 0x0031: {  // SetAutoTrackingState: tracking on delivers a burst of fixes, a second apart
+        uint8_t on = r.need(0x01).u8(0);
+        if (on && !st.gpsEnabled) return fail(kErrDeviceNotReady);
+        bool starts = on && !st.autoTracking;
+        st.autoTracking = on;
+        if (starts) {
+            uint64_t ms = st.nowMs();
+            for (int i = 0; i < kTrackingBurst; ++i) queueFix(st, me, r.client, ms + 1000u * unsigned(i));
+        }
         return ok();
+    }
     case 0x0035: {  // DetermineSinglePosition
         if (!st.gpsEnabled) return fail(kErrDeviceNotReady);
-        uint64_t ms = st.nowMs();
-        std::time_t secs = std::time_t(ms / 1000);
-        std::tm t;
-        gmtime_r(&secs, &t);
-        char hms[48], date[48];
-        std::snprintf(hms, sizeof hms, "%02d%02d%02d.%02d", t.tm_hour, t.tm_min, t.tm_sec, int(ms % 1000 / 10));
-        std::snprintf(date, sizeof date, "%02d%02d%02d", t.tm_mday, t.tm_mon + 1, t.tm_year % 100);
-        std::string gga = withChecksum(std::string("GPGGA,") + hms + "," + coord(kLatitude, true) + "," +
-                                       coord(kLongitude, false) + ",1,08,0.9,34.0,M,39.2,M,,");
-        std::string rmc = withChecksum(std::string("GPRMC,") + hms + ",A," + coord(kLatitude, true) + "," +
-                                       coord(kLongitude, false) + ",0.0,0.0," + date + ",,,A");
-        auto reg = me.reg.find(ZOVQMI_SERVICE_PDS);
-        uint32_t want = reg == me.reg.end() ? (kRegNmea | kRegParsed) : reg->second;
-        if (want & kRegNmea) {
-            st.indicate(ZOVQMI_SERVICE_PDS, r.client, 0x0001, {{0x10, W().str(gga)}});
-            st.indicate(ZOVQMI_SERVICE_PDS, r.client, 0x0001, {{0x10, W().str(rmc)}});
-        }
-        if (want & kRegParsed)
-            st.indicate(ZOVQMI_SERVICE_PDS, r.client, 0x0001,
-                        {{0x12, W().u8(0)}, {0x13, parsedPosition(t, ms)}, {0x1C, W().u32(1)}});
+        queueFix(st, me, r.client, st.nowMs());
         return ok();
     }
     case 0x0043:  // CancelSinglePosition: a fix never stays pending

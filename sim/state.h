@@ -225,9 +225,17 @@ struct State {
     std::map<uint32_t, Call> calls;       // by handle
     uint32_t nextHandle = 0x5A0C0001;
     uint64_t txBytes = 0, rxBytes = 0;
+    // NAS: system selection (modes GSM, UMTS and LTE; any roaming) and the
+    // packet domain attach
+    uint16_t modePreference = 0x1C;
+    uint64_t bandPreference = 0x00000000000C0180ull;
+    uint16_t roamingPreference = 0xFF;
+    bool psDetached = false;
     // WMS
     std::map<uint8_t, std::map<uint32_t, Sms>> sms;  // store -> index -> message
     uint16_t nextMessageId = 1;
+    std::string smscAddress = "+15550100999";
+    std::string smscType = "145";
     // PDS
     uint8_t gpsEnabled = 1;
     uint8_t autoTracking = 0;

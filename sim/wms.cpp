@@ -127,6 +127,19 @@ Reply handleWms(State& st, const Req& r) {
         }
         return ok({{0x01, W().u32(count).bytes(entries.done())}});
     }
+    case 0x0034:  // GetSMSCAddress: type (3 digits), length, address
+        return ok({{0x01, W().str(st.smscType).str8(st.smscAddress)}});
+    case 0x0035: {  // SetSMSCAddress: the address, and its type when given
+        std::string address = r.need(0x01).all();
+        if (address.empty() || address.size() > 21) return fail(kErrInvalidArgument);
+        Val v;
+        if (r.has(0x10, &v)) {
+            if (v.n != 3) return fail(kErrInvalidArgument);
+            st.smscType = v.all();
+        }
+        st.smscAddress = address;
+        return ok();
+    }
     case 0x0037:  // SendACK
         r.need(0x01).u32(0);
         return ok();

@@ -75,3 +75,37 @@ else
   echo "EXCEEDED by $((stripped - budget)) B"
   [ "$check" -eq 0 ] || exit 1
 fi
+
+# --- router programs --------------------------------------------------------
+# Every router program of the tree (zovqmi-cli, and zovqmi-connect where it
+# exists), built in the same mipsel build, linked against the shared
+# library and stripped: at most 64 KiB each, with libc and libzovqmi as the
+# only NEEDED entries.  --check fails on either.
+program_budget=$((64 * 1024))
+program_failed=0
+dir=build/footprint-$build_type-mipsel
+targets=$(cmake --build "$dir" --target help 2>/dev/null || true)
+for prog in zovqmi-cli zovqmi-connect; do
+  grep -qw -- "$prog" <<<"$targets" || continue
+  cmake --build "$dir" --target "$prog" -j 2 >"$tmp/build-$prog.log" 2>&1 ||
+    { cat "$tmp/build-$prog.log" >&2; exit 1; }
+  bin=$(find "$dir/tools" -type f -name "$prog" -perm -u+x | head -1)
+  cp "$bin" "$tmp/$prog"
+  mipsel-linux-gnu-strip --strip-all "$tmp/$prog"
+  size=$(stat -c %s "$tmp/$prog")
+  needed=$(mipsel-linux-gnu-readelf -d "$tmp/$prog" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p' | sort | tr '\n' ' ')
+  printf 'mipsel  %-16s stripped %7d B (%6.1f KiB)   NEEDED %s\n' \
+    "$prog" "$size" "$(awk -v b="$size" 'BEGIN {print b / 1024}')" "$needed"
+  printf 'budget  %s stripped <= %d B (64 KiB): ' "$prog" "$program_budget"
+  if [ "$size" -le "$program_budget" ]; then
+    echo "met ($((program_budget - size)) B to spare)"
+  else
+    echo "EXCEEDED by $((size - program_budget)) B"
+    program_failed=1
+  fi
+  if [ "$needed" != "libc.so.6 libzovqmi.so.1 " ]; then
+    echo "NEEDED of $prog: $needed (want libc.so.6 libzovqmi.so.1)"
+    program_failed=1
+  fi
+done
+[ "$check" -eq 0 ] || [ "$program_failed" -eq 0 ] || exit 1

@@ -8,6 +8,7 @@
 #include <string.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/uio.h>
 #include <sys/un.h>
 #include <time.h>
 #include <unistd.h>
@@ -123,12 +124,15 @@ void Session::attach(int fd, bool own) {
     close();
     fd_ = fd;
     own_ = own;
+    stream_ = isatty(fd) != 0;
 }
 
 void Session::close() {
     if (fd_ >= 0 && own_) ::close(fd_);
     fd_ = -1;
     own_ = false;
+    stream_ = false;
+    inLen_ = 0;
     clientCount_ = 0;
     keptCount_ = 0;
 }
@@ -147,33 +151,77 @@ int64_t Session::waitUntil(int timeoutMs) const {
     return until;
 }
 
+bool Session::takeFrame(Message* m) {
+    // Resynchronise on the interface-type byte of a frame of plausible length.
+    int skip = 0;
+    while (skip < inLen_) {
+        if (in_[skip] == 0x01) {
+            if (inLen_ - skip < 3) break;
+            int total = le16(in_ + skip + 1) + 1;
+            if (total >= 12 && total <= int(sizeof in_)) break;
+        }
+        ++skip;
+    }
+    if (skip) {
+        memmove(in_, in_ + skip, size_t(inLen_ - skip));
+        inLen_ -= skip;
+    }
+    if (inLen_ < 3) return false;
+    int total = le16(in_ + 1) + 1;
+    if (inLen_ < total) return false;
+    m->service = in_[4];
+    m->client = in_[5];
+    m->len = total - 6;
+    memcpy(m->bytes, in_ + 6, size_t(m->len));
+    memmove(in_, in_ + total, size_t(inLen_ - total));
+    inLen_ -= total;
+    if (hex_) zovPrintHex(0, m->isIndication() ? "IND" : "RX", m->bytes, m->len);
+    return true;
+}
+
 int Session::readOne(Message* m, int64_t untilMs) {
     if (fd_ < 0) return fail(kDeviceClosed, "device closed");
+    if (stream_ && takeFrame(m)) return kOk;
     pollfd p[2] = {{fd_, POLLIN, 0}, {wakeFd_, POLLIN, 0}};
-    int n = wakeFd_ >= 0 ? 2 : 1;
+    int watched = wakeFd_ >= 0 ? 2 : 1;
     for (;;) {
         int64_t left = untilMs - monotonicMs();
-        int rc = poll(p, nfds_t(n), left < 0 ? 0 : int(left));
+        int rc = poll(p, nfds_t(watched), left < 0 ? 0 : int(left));
         if (rc < 0 && errno == EINTR) continue;
         if (rc < 0) return fail(kDeviceGone, "device gone: poll: %s", strerror(errno));
-        if (n == 2 && (p[1].revents & POLLIN)) return fail(kInterrupted, "interrupted");
+        if (watched == 2 && (p[1].revents & POLLIN)) return fail(kInterrupted, "interrupted");
         if (rc == 0 || p[0].revents == 0) return fail(kTimeout, "timeout");
         break;
     }
-    errno = 0;
-    int got = zovQMIDeviceRead(fd_, m->bytes, kMaxMessage, &m->service, &m->client);
-    if (got < 0 && errno != 0 && got != ZOVQMI_ERR_MALFORMED)
-        return fail(kDeviceGone, "device gone: %s", strerror(errno));
-    if (got < 0 && (p[0].revents & (POLLHUP | POLLERR))) {
-        // A read of nothing on a hung-up transport: the other end is gone.
-        if (errno != 0) return fail(kDeviceGone, "device gone: %s", strerror(errno));
-        return fail(kDeviceClosed, "device closed");
+    // The frame is read here rather than through zovQMIDeviceRead, so that
+    // an end of file (a read of 0 bytes) is told apart from a short frame.
+    uint8_t qmux[6];
+    iovec iov[2] = {{qmux, sizeof qmux}, {m->bytes, size_t(kMaxMessage)}};
+    if (stream_) {
+        iov[0] = {in_ + inLen_, sizeof in_ - size_t(inLen_)};
+        iov[1] = {nullptr, 0};
     }
-    if (got < 0) {
-        // Less than a QMUX header, or a frame larger than any message: skip it.
+    ssize_t n = readv(fd_, iov, 2);
+    if (n < 0 && (errno == EINTR || errno == EAGAIN)) {
         m->len = 0;
         return kOk;
     }
+    if (n < 0) return fail(kDeviceGone, "device gone: %s", strerror(errno));
+    if (n == 0) return fail(kDeviceClosed, "device closed");
+    if (stream_) {
+        // What is not yet a whole frame waits for the next read.
+        inLen_ += int(n);
+        if (!takeFrame(m)) m->len = 0;
+        return kOk;
+    }
+    if (n < int(sizeof qmux)) {
+        // Less than a QMUX header: skip it.
+        m->len = 0;
+        return kOk;
+    }
+    m->service = qmux[4];
+    m->client = qmux[5];
+    int got = int(n) - int(sizeof qmux);
     m->len = got;
     if (hex_) zovPrintHex(0, m->isIndication() ? "IND" : "RX", m->bytes, m->len);
     return kOk;

@@ -157,6 +157,10 @@ public:
 private:
     // Reads one frame into `m`, waiting until `untilMs` at most.
     int readOne(Message* m, int64_t untilMs);
+    // A terminal keeps no frame boundaries: its bytes are gathered in in_
+    // and cut into frames by the QMUX length.  True when a whole frame was
+    // taken into `m`.
+    bool takeFrame(Message* m);
     void keep(const Message& m);
     void take(int i, Message* out);
     int64_t waitUntil(int timeoutMs) const;
@@ -165,6 +169,9 @@ private:
 
     int fd_ = -1;
     bool own_ = false;
+    bool stream_ = false;  // a terminal (serial line, pseudo-terminal)
+    uint8_t in_[kMaxMessage + 6];
+    int inLen_ = 0;
     bool hex_ = false;
     int timeoutMs_ = 5000;
     int64_t deadlineMs_ = 0;

@@ -1,10 +1,16 @@
 // The router tools' session layer against the simulated modem, through the
 // in-process SOCK_SEQPACKET transport (one frame per read, as on the device).
+#include <fcntl.h>
+#include <poll.h>
+#include <stdlib.h>
+#include <string.h>
+#include <termios.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
 #include <memory>
 #include <string>
+#include <thread>
 
 #include "json.h"
 #include "modem.h"
@@ -166,6 +172,80 @@ TEST(ToolSession, EndOfFileIsReportedAsDeviceClosed) {
     if (rc == kDeviceClosed) {
         EXPECT_STREQ(s->error(), "device closed");
     }
+}
+
+TEST(ToolSession, ReadOfNothingIsReportedAsDeviceClosed) {
+    // The other end still takes requests but will never send again: a read
+    // of 0 bytes, which is an end of file, not a short frame.
+    int sv[2];
+    ASSERT_EQ(socketpair(AF_UNIX, SOCK_SEQPACKET, 0, sv), 0);
+    ASSERT_EQ(shutdown(sv[1], SHUT_WR), 0);
+    std::unique_ptr<Session> s(new Session);
+    s->attach(sv[0], true);
+    uint8_t buf[64];
+    int n = zovQMICTLSyncReq(buf, sizeof buf);
+    static Message resp;
+    EXPECT_EQ(s->request(ZOVQMI_SERVICE_CTL, 0, buf, n, &resp), kDeviceClosed);
+    EXPECT_STREQ(s->error(), "device closed");
+    close(sv[1]);
+}
+
+TEST(ToolSession, FailedReadIsReportedAsDeviceGoneWithItsReason) {
+    // The other end goes away with the request unread: the read fails with
+    // ECONNRESET, named in the error text.
+    int sv[2];
+    ASSERT_EQ(socketpair(AF_UNIX, SOCK_SEQPACKET, 0, sv), 0);
+    std::thread peer([&] {
+        pollfd p = {sv[1], POLLIN, 0};
+        poll(&p, 1, 2000);
+        close(sv[1]);
+    });
+    std::unique_ptr<Session> s(new Session);
+    s->attach(sv[0], true);
+    uint8_t buf[64];
+    int n = zovQMICTLSyncReq(buf, sizeof buf);
+    static Message resp;
+    int rc = s->request(ZOVQMI_SERVICE_CTL, 0, buf, n, &resp);
+    peer.join();
+    EXPECT_EQ(rc, kDeviceGone);
+    EXPECT_STREQ(s->error(), "device gone: Connection reset by peer");
+}
+
+TEST(ToolSession, FramesThatArriveTogetherOnATerminalAreTakenOneByOne) {
+    // A terminal keeps no frame boundaries: two indications written at once,
+    // and a third in two pieces, come out as three messages.
+    int master = posix_openpt(O_RDWR | O_NOCTTY);
+    ASSERT_GE(master, 0);
+    ASSERT_EQ(grantpt(master), 0);
+    ASSERT_EQ(unlockpt(master), 0);
+    int slave = open(ptsname(master), O_RDWR | O_NOCTTY);
+    ASSERT_GE(slave, 0);
+    termios tio;
+    ASSERT_EQ(tcgetattr(slave, &tio), 0);
+    cfmakeraw(&tio);
+    ASSERT_EQ(tcsetattr(slave, TCSANOW, &tio), 0);
+    std::unique_ptr<Session> s(new Session);
+    s->attach(slave, true);
+    // WDS packet service status indications (id 0x0022), 7-byte header and
+    // one item each.
+    const uint8_t frame[] = {0x01, 0x11, 0x00, 0x80, 0x01, 0x02, 0x04, 0x00, 0x00, 0x22, 0x00,
+                             0x05, 0x00, 0x01, 0x02, 0x00, 0x02, 0x00};
+    uint8_t two[2 * sizeof frame];
+    memcpy(two, frame, sizeof frame);
+    memcpy(two + sizeof frame, frame, sizeof frame);
+    two[sizeof frame + 16] = 0x01;  // the second one says "disconnected"
+    ASSERT_EQ(write(master, two, sizeof two), ssize_t(sizeof two));
+    ASSERT_EQ(write(master, frame, 5), 5);
+    static Message m;
+    ASSERT_EQ(s->awaitIndication(ZOVQMI_SERVICE_WDS, 0x0022, 1000, &m), kOk) << s->error();
+    EXPECT_EQ(m.len, 12);
+    EXPECT_EQ(m.bytes[10], 0x02);
+    ASSERT_EQ(s->awaitIndication(ZOVQMI_SERVICE_WDS, 0x0022, 1000, &m), kOk) << s->error();
+    EXPECT_EQ(m.bytes[10], 0x01);
+    ASSERT_EQ(write(master, frame + 5, sizeof frame - 5), ssize_t(sizeof frame - 5));
+    ASSERT_EQ(s->awaitIndication(ZOVQMI_SERVICE_WDS, 0x0022, 1000, &m), kOk) << s->error();
+    EXPECT_EQ(m.client, 0x02);
+    close(master);
 }
 
 TEST(ToolSession, WakeDescriptorInterruptsAWait) {
