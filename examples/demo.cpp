@@ -4,6 +4,8 @@
 //
 //   zovqmi-demo                  talks to a simulated modem started in-process
 //   zovqmi-demo --device PATH    talks to the modem (or zovqmi-sim node) at PATH
+//   zovqmi-demo --proxy PATH     talks through a proxy's socket (zovqmi-connect --proxy);
+//                                --device takes a socket too
 //   --hex                        also dumps every frame
 //   --pin PIN                    the PIN to verify (default 1234)
 //   --apn APN                    the access point name (default internet)
@@ -105,13 +107,13 @@ int main(int argc, char** argv) {
     for (int i = 1; i < argc; ++i) {
         std::string a = argv[i];
         bool more = i + 1 < argc;
-        if (a == "--device" && more) device = argv[++i];
+        if ((a == "--device" || a == "-d" || a == "--proxy" || a == "-p") && more) device = argv[++i];
         else if (a == "--pin" && more) pin = argv[++i];
         else if (a == "--apn" && more) apn = argv[++i];
         else if (a == "--timeout" && more) timeout = std::atoi(argv[++i]);
         else if (a == "--hex") hex = true;
         else {
-            std::fprintf(stderr, "usage: zovqmi-demo [--device PATH] [--hex] [--pin PIN] [--apn APN] [--timeout MS]\n");
+            std::fprintf(stderr, "usage: zovqmi-demo [--device PATH | --proxy SOCKET] [--hex] [--pin PIN] [--apn APN] [--timeout MS]\n");
             return a == "-h" || a == "--help" ? 0 : 2;
         }
     }

@@ -1,5 +1,6 @@
 // zovqmi-cli: the command line, checked as a whole before the device is
 // opened, then one modem operation per action in the order given.
+#include <dirent.h>
 #include <errno.h>
 #include <new>
 #include <fcntl.h>
@@ -7,6 +8,9 @@
 #include <stdarg.h>
 #include <stdlib.h>
 #include <string.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include "cli.h"
@@ -16,7 +20,7 @@ namespace zovapp {
 namespace {
 
 // Actions and client ids one command line may carry.
-constexpr int kMaxSteps = 32;
+constexpr int kMaxSteps = 64;
 constexpr int kMaxGiven = 8;
 
 void usage(FILE* out) {
@@ -35,6 +39,7 @@ void usage(FILE* out) {
     fputs("\n"
           "Options (they apply to every action that uses them):\n"
           "  -d, --device PATH                  the QMI control device or proxy socket (required)\n"
+          "  -p, --proxy PATH                   a proxy's socket (zovqmi-connect --proxy, zovqmi-proxy)\n"
           "  --client-id SERVICE:ID             use a client id obtained earlier instead of a new one\n"
           "  --keep-client-ids                  do not release the client ids at the end (prints them)\n"
           "  --json                             one JSON object on standard output\n"
@@ -128,10 +133,74 @@ bool parseNumber(const char* s, long long min, long long max, long long* out) {
     return true;
 }
 
+namespace {
+
+// The longest proxy socket path (a Unix socket address's limit).
+constexpr int kHeldPath = 108;
+// Where zovqmi-connect keeps its state files (ZOVQMI_RUN_DIR for tests).
+constexpr const char* kRunDir = "/run/zovqmi";
+
+bool isSocket(const char* path) {
+    struct stat st;
+    return stat(path, &st) == 0 && S_ISSOCK(st.st_mode);
+}
+
+// The string value of "key" in a one-line JSON object (no escapes: paths).
+bool jsonValue(const char* json, const char* key, char* out, size_t size) {
+    char pattern[32];
+    snprintf(pattern, sizeof pattern, "\"%s\":\"", key);
+    const char* at = strstr(json, pattern);
+    if (!at) return false;
+    at += strlen(pattern);
+    const char* end = strchr(at, '"');
+    if (!end || size_t(end - at) >= size) return false;
+    memcpy(out, at, size_t(end - at));
+    out[end - at] = 0;
+    return true;
+}
+
+// True when a running zovqmi-connect holds `device` and shares it through a
+// proxy: one of its state files names the device and a socket that accepts
+// connections.  The socket's path goes to `proxy`.
+bool heldByManager(const char* device, char* proxy, size_t size) {
+    const char* dir = getenv("ZOVQMI_RUN_DIR");
+    if (!dir || !*dir) dir = kRunDir;
+    DIR* d = opendir(dir);
+    if (!d) return false;
+    bool held = false;
+    while (dirent* e = readdir(d)) {
+        size_t n = strlen(e->d_name);
+        if (n < 6 || strcmp(e->d_name + n - 5, ".json") != 0) continue;
+        char path[512], text[2048], named[256];
+        snprintf(path, sizeof path, "%s/%s", dir, e->d_name);
+        int fd = open(path, O_RDONLY | O_CLOEXEC);
+        if (fd < 0) continue;
+        ssize_t got = read(fd, text, sizeof text - 1);
+        close(fd);
+        if (got <= 0) continue;
+        text[got] = 0;
+        if (!jsonValue(text, "device", named, sizeof named) || strcmp(named, device) != 0) continue;
+        if (!jsonValue(text, "proxy", proxy, size)) continue;
+        // A state file left by a manager that is gone names a dead socket.
+        sockaddr_un addr = {};
+        addr.sun_family = AF_UNIX;
+        snprintf(addr.sun_path, sizeof addr.sun_path, "%s", proxy);
+        int s = socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0);
+        if (s >= 0 && connect(s, reinterpret_cast<sockaddr*>(&addr), sizeof addr) == 0) held = true;
+        if (s >= 0) close(s);
+        if (held) break;
+    }
+    closedir(d);
+    return held;
+}
+
+}  // namespace
+
 int runCli(int argc, char** argv) {
     Cli* cp = new (gCliStorage) Cli();
     Cli& c = *cp;
     const char* device = nullptr;
+    bool proxy = false;
     bool json = false, hex = false, keep = false, timeoutGiven = false;
     long long timeout = 5000;
     Step steps[kMaxSteps];
@@ -159,7 +228,9 @@ int runCli(int argc, char** argv) {
             c.~Cli();
             return kExitOk;
         } else if (strcmp(a, "-d") == 0 || strcmp(a, "--device") == 0) {
-            if ((v = value("a device path"))) device = v;
+            if ((v = value("a device path"))) device = v, proxy = false;
+        } else if (strcmp(a, "-p") == 0 || strcmp(a, "--proxy") == 0) {
+            if ((v = value("a socket path"))) device = v, proxy = true;
         } else if (strcmp(a, "--json") == 0) {
             json = true;
         } else if (strcmp(a, "--hex") == 0) {
@@ -243,7 +314,8 @@ int runCli(int argc, char** argv) {
             rc = usageError("unknown option %s", a);
         }
     }
-    if (rc == kExitOk && !device) rc = usageError("no device given (-d PATH)");
+    if (rc == kExitOk && !device) rc = usageError("no device given (-d PATH or -p SOCKET)");
+    if (rc == kExitOk && proxy && !isSocket(device)) rc = usageError("-p %s: not a socket", device);
     if (rc == kExitOk && nsteps == 0) rc = usageError("no action given");
     if (rc == kExitOk && c.set.user && strlen(c.set.user) > 127) rc = usageError("--user is longer than 127 characters");
     if (rc == kExitOk && c.set.password && strlen(c.set.password) > 127)
@@ -265,7 +337,10 @@ int runCli(int argc, char** argv) {
     c.s.setTimeout(int(timeout));
     c.s.setHexDump(hex);
     c.s.setWakeFd(c.wakeFd);
-    int status = c.s.open(device);
+    char held[kHeldPath];
+    int status = !proxy && heldByManager(device, held, sizeof held)
+                     ? c.s.fail(kDeviceGone, "%s is held by zovqmi-connect: use its proxy, -p %s", device, held)
+                     : c.s.open(device);
     for (int g = 0; status == kOk && g < ngiven; ++g) status = c.s.adopt(given[g].service, given[g].id);
     for (int k = 0; status == kOk && k < nsteps; ++k) {
         // Operations that take long on a real modem wait longer by default.

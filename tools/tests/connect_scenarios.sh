@@ -405,7 +405,9 @@ proxy)
     for i in $(seq 17); do args+=(--nas-get-signal-strength --nas-get-serving-system --dms-get-operating-mode); done
     pids=()
     for p in 1 2 3 4 5; do
-        "${WRAP[@]}" "$ZOVQMI_CLI" -d "$w/proxy.sock" --timeout 5000 "${args[@]}" >"$w/cli$p.out" 2>&1 &
+        how=-d
+        [ $((p % 2)) = 1 ] && how=-p   # a socket given with -d is found to be one
+        "${WRAP[@]}" "$ZOVQMI_CLI" $how "$w/proxy.sock" --timeout 5000 "${args[@]}" >"$w/cli$p.out" 2>&1 &
         pids+=($!)
     done
     for p in 1 2 3 4 5; do
@@ -426,6 +428,12 @@ proxy)
         [ "$(now_ms)" -lt "$until" ] || fail "client ids after the programs: $(clients) (manager's: $manager)"
         sleep 0.05
     done
+    # The device itself is the manager's: the tool says where its proxy is.
+    if out=$(ZOVQMI_RUN_DIR=$w "${WRAP[@]}" "$ZOVQMI_CLI" -d "$w/dev/cdc-wdm0" --nas-get-signal-strength 2>&1); then
+        fail "the tool used the device the manager holds"
+    fi
+    echo "  $(grep -c -- "-67 dBm" "$w/cli1.out") signal answers in program 1; the held device: $out"
+    echo "$out" | grep -qF -- "-p $w/proxy.sock" || fail "the tool's error does not name the proxy socket: $out"
     ping4
     stop_daemon 2000
     [ ! -e "$w/proxy.sock" ] || fail "the proxy socket was left behind"
