@@ -427,7 +427,7 @@ Event Daemon::sim() {
 
 // --- the network -----------------------------------------------------------------
 
-bool Daemon::servingSystem(bool* registered) {
+int Daemon::servingSystem(bool* registered) {
     uint8_t buf[32];
     int n = zovQMINASGetServingSystemReq(buf, sizeof buf);
     int rc = request(ZOVQMI_SERVICE_NAS, buf, n);
@@ -436,9 +436,8 @@ bool Daemon::servingSystem(bool* registered) {
         QmiResult r = {};
         rc = s_.check("serving system", zovQMINASGetServingSystemResp(msg_.bytes, msg_.len, &r, &ss), r);
     }
-    if (rc != zovapp::kOk) return false;
-    *registered = ss.state[0] == kRegistered && ss.state[2] != kPsDetached;
-    return true;
+    *registered = rc == zovapp::kOk && ss.state[0] == kRegistered && ss.state[2] != kPsDetached;
+    return rc;
 }
 
 void Daemon::updateSignal() {
@@ -464,18 +463,10 @@ void Daemon::updateSignal() {
 Event Daemon::network() {
     for (;;) {
         bool registered = false;
-        uint8_t buf[32];
-        int n = zovQMINASGetServingSystemReq(buf, sizeof buf);
-        int rc = request(ZOVQMI_SERVICE_NAS, buf, n);
-        NASServingSystem ss = {};
-        if (rc == zovapp::kOk) {
-            QmiResult r = {};
-            rc = s_.check("serving system", zovQMINASGetServingSystemResp(msg_.bytes, msg_.len, &r, &ss), r);
-        }
+        int rc = servingSystem(&registered);
         if (rc != zovapp::kOk && rc != zovapp::kQmiFailure && rc != zovapp::kBadAnswer)
             return fault(rc, Event::DeviceLost);
         if (rc == zovapp::kQmiFailure && s_.qmiError() == kErrInvalidClientId) return fault(rc, Event::DeviceLost);
-        registered = rc == zovapp::kOk && ss.state[0] == kRegistered && ss.state[2] != kPsDetached;
         updateSignal();
         if (registered != snap_.registered) {
             snap_.registered = registered;

@@ -64,7 +64,8 @@ private:
     // client ids, a signal), or `otherwise` for a failure of the request itself.
     Event fault(int rc, Event otherwise);
 
-    bool servingSystem(bool* registered);
+    // GetServingSystem: registered means registered with packet service attached.
+    int servingSystem(bool* registered);
     void updateSignal();
     int probeCall(Call& c, uint8_t* status);
     int startCall(Call& c);
