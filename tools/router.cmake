@@ -9,13 +9,12 @@ set(ZOVQMI_ROUTER_FLAGS -Os -Wall -Wextra -fno-exceptions -fno-rtti -fno-threads
 # above all on MIPS, where -mno-shared drops the PIC call sequences); the
 # static libraries it shares with the tests stay position-independent.
 # On MIPS they are also compiled as MIPS16e (about a third smaller), which
-# the MIPS32 cores of routers carry; ZOVQMI_ROUTER_MIPS16=OFF builds plain
-# MIPS32 code for a core without it.
+# the MIPS32 cores of routers carry, like the library; ZOVQMI_MIPS16=OFF
+# builds plain MIPS32 code for a core without it.
 set(ZOVQMI_ROUTER_PROGRAM_FLAGS -fno-pie)
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "^mips")
-  option(ZOVQMI_ROUTER_MIPS16 "Compile the router programs as MIPS16e code" ON)
   list(APPEND ZOVQMI_ROUTER_PROGRAM_FLAGS -mno-shared)
-  if(ZOVQMI_ROUTER_MIPS16)
+  if(ZOVQMI_MIPS16)
     list(APPEND ZOVQMI_ROUTER_PROGRAM_FLAGS -mips16 -minterlink-compressed)
   endif()
 endif()
