@@ -5,47 +5,8 @@
 #   e2e.sh SIM CLI DEMO
 set -u
 SIM=$1 CLI=$2 DEMO=$3
-work=$(mktemp -d)
-pids=()
-fails=0
-cleanup() {
-    for p in "${pids[@]}"; do kill "$p" 2>/dev/null; wait "$p" 2>/dev/null; done
-    rm -rf "$work"
-}
-trap cleanup EXIT
-
-# expect NAME STATUS PATTERN -- COMMAND...: the command exits with STATUS and
-# its output (stdout and stderr) matches PATTERN.
-expect() {
-    local name=$1 status=$2 pattern=$3
-    shift 4
-    local out rc
-    out=$("$@" 2>&1)
-    rc=$?
-    if [ "$rc" -ne "$status" ] || ! grep -qE -- "$pattern" <<<"$out"; then
-        echo "FAIL $name: status $rc (want $status), output:"
-        sed 's/^/    /' <<<"$out"
-        fails=$((fails + 1))
-    else
-        echo "ok   $name"
-    fi
-}
-
-# start NAME ARGS...: starts zovqmi-sim and sets $device to the path it prints.
-start() {
-    local log=$work/$1.log
-    shift
-    "$SIM" "$@" >"$log" 2>&1 &
-    pids+=($!)
-    for _ in $(seq 100); do
-        device=$(sed -n 's/^device: //p' "$log")
-        [ -n "$device" ] && { [ -e "$device" ] && return 0; }
-        kill -0 "${pids[-1]}" 2>/dev/null || break
-        sleep 0.05
-    done
-    cat "$log"
-    return 1
-}
+RUN=()
+. "$(dirname "$0")/../../tests/e2e_lib.sh"
 
 expect "demo in-process" 0 "connection down, call end reason 2" -- "$DEMO"
 expect "cli without device" 1 "cannot open /nonexistent" -- "$CLI" -d /nonexistent --dms-get-ids

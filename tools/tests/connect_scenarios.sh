@@ -91,6 +91,16 @@ wait_state() {
     fail "not ${neg:+out of }$want within $secs s (state: $(state))"
 }
 
+# wait_reconnected BEFORE SECONDS: until the state file says connected with
+# more reconnects than BEFORE.
+wait_reconnected() {
+    local until=$(($(now_ms) + $2 * 1000))
+    until [ "$(state)" = connected ] && [ "$(reconnects)" -gt "$1" ]; do
+        [ "$(now_ms)" -lt "$until" ] || fail "not connected again within $2 s"
+        sleep 0.05
+    done
+}
+
 # Pings the gateway of the first call (a few tries: the first packet may
 # meet a link still coming up).
 ping4() {
@@ -187,12 +197,7 @@ drop-call)
     before=$(reconnects)
     t0=$(now_ms)
     ctl drop-call >/dev/null || fail "drop-call refused"
-    until=$((t0 + 5000))
-    while [ "$(now_ms)" -lt "$until" ]; do
-        [ "$(state)" = connected ] && [ "$(reconnects)" -gt "$before" ] && break
-        sleep 0.05
-    done
-    [ "$(state)" = connected ] && [ "$(reconnects)" -gt "$before" ] || fail "not connected again within 5 s"
+    wait_reconnected "$before" 5
     echo "  connected again after $(($(now_ms) - t0)) ms"
     ping4
     grep -q '^ZOVQMI_REASON=call-dropped$' "$w/hook.log" || fail "the script's down did not say call-dropped"
@@ -272,12 +277,7 @@ reset)
     wait_state connected 20
     before=$(reconnects)
     ctl reset >/dev/null || fail "reset refused"
-    until=$(($(now_ms) + 10000))
-    while [ "$(now_ms)" -lt "$until" ]; do
-        [ "$(state)" = connected ] && [ "$(reconnects)" -gt "$before" ] && break
-        sleep 0.05
-    done
-    [ "$(state)" = connected ] && [ "$(reconnects)" -gt "$before" ] || fail "not connected again within 10 s"
+    wait_reconnected "$before" 10
     [ "$(client_ids)" = 3 ] || fail "$(client_ids) client ids after the reset (want 3: wds, dms, nas)"
     [ "$(active_calls)" = 1 ] || fail "no call after the reset"
     ping4

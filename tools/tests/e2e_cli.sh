@@ -12,49 +12,8 @@ SIM=$1
 shift
 CLI=("$@")
 [ -x "$SIM" ] || { echo "skip: no simulator at $SIM"; exit 77; }
-work=$(mktemp -d)
-pids=()
-fails=0
-checks=0
-cleanup() {
-    for p in "${pids[@]}"; do kill "$p" 2>/dev/null; wait "$p" 2>/dev/null; done
-    rm -rf "$work"
-}
-trap cleanup EXIT
-
-# expect NAME STATUS PATTERN -- ARGS...: the tool exits with STATUS and its
-# output (stdout and stderr) matches the extended regular expression PATTERN.
-expect() {
-    local name=$1 status=$2 pattern=$3
-    shift 4
-    local out rc
-    out=$("${CLI[@]}" "$@" 2>&1)
-    rc=$?
-    checks=$((checks + 1))
-    if [ "$rc" -ne "$status" ] || ! grep -qE -- "$pattern" <<<"$out"; then
-        echo "FAIL $name: status $rc (want $status), output:"
-        sed 's/^/    /' <<<"$out"
-        fails=$((fails + 1))
-    else
-        echo "ok   $name"
-    fi
-}
-
-# start NAME ARGS...: starts zovqmi-sim and sets $device to the path it prints.
-start() {
-    local log=$work/$1.log
-    shift
-    "$SIM" "$@" >"$log" 2>&1 &
-    pids+=($!)
-    for _ in $(seq 200); do
-        device=$(sed -n 's/^device: //p' "$log")
-        [ -n "$device" ] && [ -e "$device" ] && return 0
-        kill -0 "${pids[-1]}" 2>/dev/null || break
-        sleep 0.05
-    done
-    cat "$log"
-    return 1
-}
+RUN=("${CLI[@]}")
+. "$(dirname "$0")/../../tests/e2e_lib.sh"
 
 # The transport: the device node when FUSE works (and ZOVQMI_E2E_PTY is not
 # set), else the pseudo-terminal.
