@@ -148,6 +148,28 @@ inline void storeValue(void* out, const uint8_t* p, unsigned width) {
     }
 }
 
+// n bytes copied; the short strings of request items (an APN, a user name)
+// are copied in place, as two overlapping 8- or 16-byte moves, instead of a
+// call.
+inline void copyString(uint8_t* dst, const void* from, size_t n) {
+    const uint8_t* src = static_cast<const uint8_t*>(from);
+    if (n >= 8 && n <= 16) {
+        uint8_t head[8], tail[8];
+        copyBytes(head, src, 8);
+        copyBytes(tail, src + n - 8, 8);
+        copyBytes(dst, head, 8);
+        copyBytes(dst + n - 8, tail, 8);
+    } else if (n > 16 && n <= 32) {
+        uint8_t head[16], tail[16];
+        copyBytes(head, src, 16);
+        copyBytes(tail, src + n - 16, 16);
+        copyBytes(dst, head, 16);
+        copyBytes(dst + n - 16, tail, 16);
+    } else {
+        copyBytes(dst, src, n);
+    }
+}
+
 // A text item (the Ref gives its length output's width): its length into
 // *length, its bytes into data when data is non-null.  Raw bytes (no width):
 // n bytes into data.  The text's length or the raw bytes' data is required.
@@ -164,28 +186,52 @@ inline bool requiredBytes(Ref r, const void* length, const void* data) { return 
 
 }  // namespace
 
+namespace {
+// The usual case of a lookup: the first message of a service buffer of at
+// least 10 bytes, whose TLV area holds at least one head.  There the message
+// walk stops at once and both bounds of the item walk (the area's last head,
+// the buffer's last readable head) are known before it starts, so an item is
+// found in one pass that makes the same checks as walkMessages and
+// walkItems, in the same order, and gives the same answers.  Addresses are
+// kept as integers: a step may lead past the buffer (by at most one item's
+// length) and is then only compared, never read.
+struct First {
+    uintptr_t area;  // the first head
+    uintptr_t last;  // the area's last possible head
+    uintptr_t stop;  // the last head both inside the area and readable
+};
+
+// False when the buffer is not of that shape: the general walks decide.  For
+// a service Ref only (getScalar and getText are never handed a CTL one).
+__attribute__((always_inline)) inline bool firstMessage(const uint8_t* msg, int len, Ref r, First* f) {
+    if (len < 10 || ld16(msg + 3) != refId(r) || ld16(msg + 5) < 3) return false;
+    f->area = reinterpret_cast<uintptr_t>(msg + 7);
+    f->last = f->area + ld16(msg + 5) - 3;
+    const uintptr_t readable = reinterpret_cast<uintptr_t>(msg + len - 3);
+    f->stop = f->last < readable ? f->last : readable;
+    return true;
+}
+
+// Item `type` of that message: 0 with its head in *head, kErrMalformed, or
+// `absent` (kErrNoTlv, or kErrNoMandatory for a response's item 0x01).
+__attribute__((always_inline)) inline int firstItem(const First& f, uint8_t type, int absent, const uint8_t** head) {
+    uintptr_t p = f.area;
+    while (*reinterpret_cast<const uint8_t*>(p) != type) {
+        p += ld16(reinterpret_cast<const uint8_t*>(p) + 1) + 3u;
+        if (p > f.stop) return p <= f.last ? kErrMalformed : absent;
+    }
+    *head = reinterpret_cast<const uint8_t*>(p);
+    return 0;
+}
+
+// The bytes readable from the value of the item at head.
+inline size_t room(const uint8_t* msg, int len, const uint8_t* head) {
+    return static_cast<size_t>(msg + len - (head + 3));
+}
+}  // namespace
+
 int getValue(const uint8_t* msg, int len, void* out, Ref r) {
     if (!msg || !out) return kErrArg;
-    // The usual case in one pass over offsets (a getter is called once per
-    // item, so this is the hot path): the first message of a service buffer
-    // of at least 10 bytes, a TLV area of at least one head.  The same checks
-    // as the general path below, in the same order.
-    if (!(r & kRefControl) && len >= 10 && ld16(msg + 3) == refId(r) && ld16(msg + 5) >= 3) {
-        const uint8_t* area = msg + 7;
-        const unsigned long last = ld16(msg + 5) - 3ul;
-        const unsigned long readable = static_cast<unsigned long>(len) - 10;
-        const unsigned long limit = last < readable ? last : readable;
-        const uint8_t type = refType(r);
-        unsigned long off = 0;
-        while (area[off] != type) {
-            off += ld16(area + off + 1) + 3ul;
-            if (off > limit) return off <= last ? kErrMalformed : kErrNoTlv;
-        }
-        const unsigned width = refWidth(r);
-        if (readable - off < width) return kErrMalformed;
-        storeValue(out, area + off + 3, width);
-        return (r & kRefIndication) ? ld16(msg + 5) : ld16(area + off + 1);
-    }
     Message m;
     if (int e = locate(msg, len, r, &m)) return e;
     Item it;
@@ -195,40 +241,21 @@ int getValue(const uint8_t* msg, int len, void* out, Ref r) {
     return (r & kRefIndication) ? m.areaLen : it.length;
 }
 
-int respValue(const uint8_t* msg, int len, QmiResult* result, void* out, Ref r) {
-    if (!msg || !result || !out) return kErrArg;
-    // The usual case in one pass over offsets, as in getValue: the result
-    // item, then the mandatory item, each found from the first head.
-    if (!(r & kRefControl) && len >= 10 && ld16(msg + 3) == refId(r) && ld16(msg + 5) >= 3) {
-        const uint8_t* area = msg + 7;
-        const unsigned long last = ld16(msg + 5) - 3ul;
-        const unsigned long readable = static_cast<unsigned long>(len) - 10;
-        const unsigned long limit = last < readable ? last : readable;
-        unsigned long off = 0;
-        while (area[off] != 0x02) {
-            off += ld16(area + off + 1) + 3ul;
-            if (off > limit) return off <= last ? kErrMalformed : kErrNoTlv;
-        }
-        if (readable - off < 4) return kErrMalformed;
-        copyBytes(result, area + off + 3, 4);
-        off = 0;
-        while (area[off] != 0x01) {
-            off += ld16(area + off + 1) + 3ul;
-            if (off > limit) return off <= last ? kErrMalformed : kErrNoMandatory;
-        }
-        const unsigned width = refWidth(r);
-        if (readable - off < width) return kErrMalformed;
-        storeValue(out, area + off + 3, width);
-        return ld16(msg + 5);
+template <unsigned W>
+int getScalar(const uint8_t* msg, int len, void* out, Ref r) {
+    First f;
+    if (msg && out && firstMessage(msg, len, r, &f)) {
+        const uint8_t* head;
+        if (int e = firstItem(f, refType(r), kErrNoTlv, &head)) return e;
+        if (room(msg, len, head) < W) return kErrMalformed;
+        storeValue(out, head + 3, W);
+        return ld16(head + 1);
     }
-    Message m;
-    if (int e = findMessageOf(msg, len, r, &m)) return e;
-    Item it;
-    if (int e = locateMandatory(m, result, &it)) return e;
-    if (!fits(it, refWidth(r))) return kErrMalformed;
-    storeValue(out, it.value, refWidth(r));
-    return m.areaLen;
+    return getValue(msg, len, out, r);
 }
+template int getScalar<1>(const uint8_t*, int, void*, Ref);
+template int getScalar<2>(const uint8_t*, int, void*, Ref);
+template int getScalar<4>(const uint8_t*, int, void*, Ref);
 
 int getBytes(const uint8_t* msg, int len, Ref r, void* length, void* data, size_t n) {
     if (!msg || !requiredBytes(r, length, data)) return kErrArg;
@@ -238,6 +265,56 @@ int getBytes(const uint8_t* msg, int len, Ref r, void* length, void* data, size_
     if (int e = walkItems(m.area, m.areaLen, m.end, refType(r), &it)) return e;
     if (int e = storeBytes(it, r, length, data, n)) return e;
     return (r & kRefIndication) ? m.areaLen : it.length;
+}
+
+int getText(const uint8_t* msg, int len, Ref r, void* length, void* data) {
+    First f;
+    if (msg && length && firstMessage(msg, len, r, &f)) {
+        const uint8_t* head;
+        if (int e = firstItem(f, refType(r), kErrNoTlv, &head)) return e;
+        // As storeBytes for a text: the length (one or two bytes), then the bytes.
+        const uint16_t n = ld16(head + 1);
+        if (data && n && room(msg, len, head) < n) return kErrMalformed;
+        if (refWidth(r) == 1) *static_cast<uint8_t*>(length) = static_cast<uint8_t>(n);
+        else copyBytes(length, &n, 2);
+        if (data && n) copyString(static_cast<uint8_t*>(data), head + 3, n);
+        return n;
+    }
+    return getBytes(msg, len, r, length, data, 0);
+}
+
+namespace {
+// respValue and respResult beyond the usual shape (kept out of their fast paths).
+__attribute__((noinline)) int respValueWalk(const uint8_t* msg, int len, QmiResult* result, void* out, Ref r) {
+    Message m;
+    if (int e = locate(msg, len, r, &m)) return e;
+    Item it;
+    if (int e = locateMandatory(m, result, &it)) return e;
+    if (!fits(it, refWidth(r))) return kErrMalformed;
+    storeValue(out, it.value, refWidth(r));
+    return m.areaLen;
+}
+__attribute__((noinline)) int respResultWalk(const uint8_t* msg, int len, QmiResult* result, Ref r) {
+    Message m;
+    if (int e = findMessageOf(msg, len, r, &m)) return e;
+    if (int e = copyResult(m, result)) return e;
+    return m.areaLen;
+}
+}  // namespace
+
+int respValue(const uint8_t* msg, int len, QmiResult* result, void* out, Ref r) {
+    if (!msg || !result || !out) return kErrArg;
+    First f;
+    if ((r & kRefControl) || !firstMessage(msg, len, r, &f)) return respValueWalk(msg, len, result, out, r);
+    // The result item, then the mandatory item, each found from the first head.
+    const uint8_t* head;
+    if (int e = firstItem(f, 0x02, kErrNoTlv, &head)) return e;
+    if (room(msg, len, head) < 4) return kErrMalformed;
+    copyBytes(result, head + 3, 4);
+    if (int e = firstItem(f, 0x01, kErrNoMandatory, &head)) return e;
+    if (room(msg, len, head) < refWidth(r)) return kErrMalformed;
+    storeValue(out, head + 3, refWidth(r));
+    return ld16(msg + 5);
 }
 
 int respBytes(const uint8_t* msg, int len, QmiResult* result, Ref r, void* length, void* data, size_t n) {
@@ -262,10 +339,13 @@ int respItem(const uint8_t* msg, int len, QmiResult* result, Ref r, const Decode
 
 int respResult(const uint8_t* msg, int len, QmiResult* result, Ref r) {
     if (!msg || !result) return kErrArg;
-    Message m;
-    if (int e = findMessageOf(msg, len, r, &m)) return e;
-    if (int e = copyResult(m, result)) return e;
-    return m.areaLen;
+    First f;
+    if ((r & kRefControl) || !firstMessage(msg, len, r, &f)) return respResultWalk(msg, len, result, r);
+    const uint8_t* head;
+    if (int e = firstItem(f, 0x02, kErrNoTlv, &head)) return e;
+    if (room(msg, len, head) < 4) return kErrMalformed;
+    copyBytes(result, head + 3, 4);
+    return ld16(msg + 5);
 }
 
 int getItem(const uint8_t* msg, int len, Ref r, const DecoderRef& f) {
@@ -291,8 +371,7 @@ __attribute__((always_inline)) inline void putHeader(bool control, uint8_t* buf,
     buf[0] = 0;  // control flags
     uint16_t tx = nextTransactionId();
     if (!control) {
-        st16(buf + 1, tx);
-        st16(buf + 3, id);
+        st32(buf + 1, tx | static_cast<uint32_t>(id) << 16);  // transaction id, message id
         st16(buf + 5, areaLen);
     } else {
         buf[1] = static_cast<uint8_t>(tx);  // CTL carries the low byte only
@@ -330,28 +409,6 @@ __attribute__((always_inline)) inline uint8_t* makeRoom(bool control, uint8_t* b
     st16(item + 1, static_cast<uint16_t>(n));
     *total = newTotal;
     return item + 3;
-}
-
-// n bytes copied; the short strings of request items (an APN, a user name)
-// are copied in place, as two overlapping 8- or 16-byte moves, instead of a
-// call.
-inline void copyString(uint8_t* dst, const void* from, size_t n) {
-    const uint8_t* src = static_cast<const uint8_t*>(from);
-    if (n >= 8 && n <= 16) {
-        uint8_t head[8], tail[8];
-        copyBytes(head, src, 8);
-        copyBytes(tail, src + n - 8, 8);
-        copyBytes(dst, head, 8);
-        copyBytes(dst + n - 8, tail, 8);
-    } else if (n > 16 && n <= 32) {
-        uint8_t head[16], tail[16];
-        copyBytes(head, src, 16);
-        copyBytes(tail, src + n - 16, 16);
-        copyBytes(dst, head, 16);
-        copyBytes(dst + n - 16, tail, 16);
-    } else {
-        copyBytes(dst, src, n);
-    }
 }
 
 // The low n bytes (1, 2 or 4) of v in wire order.

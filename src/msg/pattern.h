@@ -136,6 +136,12 @@ struct Raw {
 // item of an indication), respValue and respBytes the mandatory item 0x01
 // of a response.
 int getValue(const uint8_t* msg, int len, void* out, Ref r);
+// getValue and getBytes for an optional item of a service message: a scalar
+// W bytes wide (1, 2 or 4), or a text.  They answer the usual shape of a
+// buffer at once and hand every other to the general helpers.
+template <unsigned W>
+int getScalar(const uint8_t* msg, int len, void* out, Ref r);
+int getText(const uint8_t* msg, int len, Ref r, void* length, void* data);
 int respValue(const uint8_t* msg, int len, QmiResult* result, void* out, Ref r);
 // Text (a width: its length output's) or raw bytes (no width: n bytes into data).
 int getBytes(const uint8_t* msg, int len, Ref r, void* length, void* data, size_t n);
@@ -311,11 +317,16 @@ int get(const uint8_t* msg, int len, uint16_t id, uint8_t type, bool outsOk, F&&
 template <Header H = kService>
 int get(const uint8_t* msg, int len, uint16_t id, uint8_t type, bool outsOk, Scalar s) {
     if (!outsOk) return kErrArg;
-    return getValue(msg, len, s.out, ref(H, id, type, s.width));
+    const Ref r = ref(H, id, type, s.width);
+    if (H == kService && s.width == 1) return getScalar<1>(msg, len, s.out, r);
+    if (H == kService && s.width == 2) return getScalar<2>(msg, len, s.out, r);
+    if (H == kService && s.width == 4) return getScalar<4>(msg, len, s.out, r);
+    return getValue(msg, len, s.out, r);
 }
 template <Header H = kService>
 int get(const uint8_t* msg, int len, uint16_t id, uint8_t type, bool outsOk, Text t) {
     if (!outsOk) return kErrArg;
+    if (H == kService) return getText(msg, len, ref(H, id, type, t.width), t.length, t.data);
     return getBytes(msg, len, ref(H, id, type, t.width), t.length, t.data, 0);
 }
 template <Header H = kService>
