@@ -148,12 +148,15 @@ inline void storeValue(void* out, const uint8_t* p, unsigned width) {
     }
 }
 
-// n bytes copied; the short strings of request items (an APN, a user name)
-// are copied in place, as two overlapping 8- or 16-byte moves, instead of a
-// call.
+// n bytes copied; on 64-bit targets the short strings of items (an APN, a
+// user name) are copied in place, as two overlapping 8- or 16-byte moves,
+// instead of a call.  A 32-bit target would take those moves through its
+// stack, so there the call is both smaller and as fast.
 inline void copyString(uint8_t* dst, const void* from, size_t n) {
     const uint8_t* src = static_cast<const uint8_t*>(from);
-    if (n >= 8 && n <= 16) {
+    if (sizeof(void*) < 8) {
+        copyBytes(dst, src, n);
+    } else if (n >= 8 && n <= 16) {
         uint8_t head[8], tail[8];
         copyBytes(head, src, 8);
         copyBytes(tail, src + n - 8, 8);
