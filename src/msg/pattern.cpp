@@ -153,16 +153,15 @@ inline void storeValue(void* out, const uint8_t* p, unsigned width) {
 // instead of a call.  A 32-bit target would take those moves through its
 // stack, so there the call is both smaller and as fast.
 inline void copyString(uint8_t* dst, const void* from, size_t n) {
+    constexpr bool kWordMoves = sizeof(void*) >= 8;
     const uint8_t* src = static_cast<const uint8_t*>(from);
-    if (sizeof(void*) < 8) {
-        copyBytes(dst, src, n);
-    } else if (n >= 8 && n <= 16) {
+    if (kWordMoves && n >= 8 && n <= 16) {
         uint8_t head[8], tail[8];
         copyBytes(head, src, 8);
         copyBytes(tail, src + n - 8, 8);
         copyBytes(dst, head, 8);
         copyBytes(dst + n - 8, tail, 8);
-    } else if (n > 16 && n <= 32) {
+    } else if (kWordMoves && n > 16 && n <= 32) {
         uint8_t head[16], tail[16];
         copyBytes(head, src, 16);
         copyBytes(tail, src + n - 16, 16);
