@@ -136,15 +136,16 @@ struct Raw {
 // item of an indication), respValue and respBytes the mandatory item 0x01
 // of a response.
 int getValue(const uint8_t* msg, int len, void* out, Ref r);
-// getValue and getBytes for an optional item of a service message: a scalar
-// W bytes wide (1, 2 or 4), or a text.  They answer the usual shape of a
-// buffer at once and hand every other to the general helpers.
-template <unsigned W>
-int getScalar(const uint8_t* msg, int len, void* out, Ref r);
-int getText(const uint8_t* msg, int len, Ref r, void* length, void* data);
 int respValue(const uint8_t* msg, int len, QmiResult* result, void* out, Ref r);
 // Text (a width: its length output's) or raw bytes (no width: n bytes into data).
 int getBytes(const uint8_t* msg, int len, Ref r, void* length, void* data, size_t n);
+// getValue and getBytes for an optional item of a service message: a scalar
+// W bytes wide (1, 2 or 4), or a text.  They answer the usual buffer (its
+// first message is the one asked for) themselves and hand every other to
+// getValue and getBytes.
+template <unsigned W>
+int getScalar(const uint8_t* msg, int len, void* out, Ref r);
+int getText(const uint8_t* msg, int len, Ref r, void* length, void* data);
 int respBytes(const uint8_t* msg, int len, QmiResult* result, Ref r, void* length, void* data, size_t n);
 int respResult(const uint8_t* msg, int len, QmiResult* result, Ref r);
 int indId(const uint8_t* msg, int len, Ref r);
