@@ -9940,7 +9940,7 @@ ZOVQMI_API int zovQMIPBMHiddenRecordStatusIND(const uint8_t* msg, int len, uint8
  */
 
 /**
- * One traffic flow of a QoS spec: the parameter items the flow carries.  84 bytes, natural alignment; arrays of it
+ * One traffic flow of a QoS description: the parameter items the flow carries.  84 bytes, natural alignment; arrays of it
  * are stepped by its size. Fields are native values (not little-endian bytes).  Each parameter item has a presence
  * byte (nonzero: present) and its value fields, named after the item's type; the builder writes present items only,
  * in the order 0x10, 0x1B, 0x11 to 0x18, 0x19, 0x1A, 0x1C, 0x1D, 0x1E.  The parsers set the presence byte of each
@@ -9988,7 +9988,7 @@ typedef struct FlowSpecification {
 } FlowSpecification;
 
 /**
- * One packet filter of a QoS spec: the parameter items the filter carries.  112 bytes, natural alignment, as for
+ * One packet filter of a QoS description: the parameter items the filter carries.  112 bytes, natural alignment, as for
  * flows. Fields are native values; the 16-byte blocks are copied as they are.  A filter has no item 0x18, 0x1F or
  * 0x20; the builder writes present items in type order.  The parsers set the presence byte of each item they read
  * to 1 and leave the others as they were.
@@ -10081,14 +10081,14 @@ typedef struct QoSProfileList {
 
 /** @defgroup qos_codec Flow and filter codec
  *  @ingroup svc_qos
- *  @brief Nests one flow or filter into a QoS spec item and reads one back.
+ *  @brief Nests one flow or filter into a QoS description item and reads one back.
  *
  *  On the wire a flow or filter is a wrapper item (0x11 or 0x12 for a flow, 0x13 or 0x14 for a filter) whose value
  *  is one item 0x10 whose value is the list of parameter items.
  *  @{
  */
 /**
- * Appends one flow to the value of a QoS spec item record of type 0x10.
+ * Appends one flow to the value of a QoS description item record of type 0x10.
  * Writes the wrapper item (type @c flow->type), the item 0x10 and the flow's present parameter items at the end of
  * the record's value and raises its length.
  * @param tlv The record under construction; its type must be 0x10; required.
@@ -10100,7 +10100,7 @@ typedef struct QoSProfileList {
  */
 ZOVQMI_API int fnRequestAddFlowSpecification(QmiTlvRecord* tlv, const FlowSpecification* flow);
 /**
- * Appends one filter to the value of a QoS spec item record of type 0x10.
+ * Appends one filter to the value of a QoS description item record of type 0x10.
  * Writes the wrapper item (type @c filter->type), the item 0x10 and the filter's present parameter items at the end
  * of the record's value and raises its length.
  * @param tlv The record under construction; its type must be 0x10; required.
@@ -10260,7 +10260,7 @@ ZOVQMI_API int zovQMIQOSSetEventReportINDGetNetworkSupportedQoSProfiles(const ui
 
 /** @defgroup qos_request_qos RequestQoS (0x0020)
  *  @ingroup svc_qos
- *  @brief Asks for a QoS reservation described by a QoS spec.
+ *  @brief Asks for a QoS reservation described by a QoS description.
  *  @{
  */
 /**
@@ -10273,12 +10273,12 @@ ZOVQMI_API int zovQMIQOSSetEventReportINDGetNetworkSupportedQoSProfiles(const ui
  */
 ZOVQMI_API int zovQMIQOSRequestQoSReq(uint8_t* buf, int bufsize);
 /**
- * Appends item 0x10, a QoS spec, to a RequestQoS (0x0020) request.
+ * Appends item 0x10, a QoS description, to a RequestQoS (0x0020) request.
  * The value is the index item 0x10 (1 byte), then every flow of @p qosSpec, then every filter, each nested by the
  * flow or filter codec under its own @c type.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
- * @param index Index of this QoS spec in the request.
+ * @param index Index of this QoS description in the request.
  * @param qosSpec The flows and filters; required.
  * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf or @p qosSpec, or a nonzero count with a null
  *   array; ZOVQMI_ERR_NO_ROOM when the item does not fit in @p bufsize; ZOVQMI_ERR_MALFORMED when the value would
@@ -10314,13 +10314,13 @@ ZOVQMI_API int zovQMIQOSRequestQoSReqAddQoSRequestOpcode(uint8_t* buf, int bufsi
 ZOVQMI_API int zovQMIQOSRequestQoSResp(const uint8_t* msg, int len, QmiResult* result, uint8_t* count,
                                        uint32_t* identifiers);
 /**
- * Reads item 0x10 of the RequestQoS (0x0020) response: the QoS spec errors.
+ * Reads item 0x10 of the RequestQoS (0x0020) response: the QoS description errors.
  * Walks the value item by item: item 0x10 gives @p index; an item 0x11 or 0x12 whose value begins with a non-empty
  * item 0x10 is the next flow, one 0x13 or 0x14 the next filter, with @c type set to the item's type, @c index from
  * its sub-item 0x10 and the parameters from its sub-item 0x11.  Both counts are set.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param index Receives the index of the QoS spec in error; required.
+ * @param index Receives the index of the QoS description in error; required.
  * @param qosSpec Its @c flows and @c filters arrays (set beforehand, or null) receive the elements in error, its
  *   counts the numbers found; required.  The arrays' size is not checked.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
@@ -10442,13 +10442,13 @@ ZOVQMI_API int zovQMIQOSResumeQoSResp(const uint8_t* msg, int len, QmiResult* re
  */
 ZOVQMI_API int zovQMIQOSModifyQoSReq(uint8_t* buf, int bufsize);
 /**
- * Appends item 0x10, a QoS spec, to a ModifyQoS (0x0024) request.
+ * Appends item 0x10, a QoS description, to a ModifyQoS (0x0024) request.
  * The value is the identifier item 0x01 (u32), the index item 0x10 (1 byte), then every flow of @p qosSpec, then
  * every filter, each nested by the flow or filter codec under its own @c type.
  * @param buf Request under construction, its header written by the matching Req function; required.
  * @param bufsize Capacity of @p buf in bytes.
  * @param identifier QoS identifier of the reservation to change (written little-endian).
- * @param index Index of this QoS spec in the request.
+ * @param index Index of this QoS description in the request.
  * @param qosSpec The flows and filters; required.
  * @return The new message length; ZOVQMI_ERR_ARG for a null @p buf or @p qosSpec, or a nonzero count with a null
  *   array; ZOVQMI_ERR_NO_ROOM when the item does not fit in @p bufsize; ZOVQMI_ERR_MALFORMED when the value would
@@ -10478,11 +10478,11 @@ ZOVQMI_API int zovQMIQOSModifyQoSReqAddPrimaryQoSModifyRequest(uint8_t* buf, int
  */
 ZOVQMI_API int zovQMIQOSModifyQoSResp(const uint8_t* msg, int len, QmiResult* result);
 /**
- * Reads item 0x10 of the ModifyQoS (0x0024) response: the QoS spec errors, read exactly as for RequestQoS.
+ * Reads item 0x10 of the ModifyQoS (0x0024) response: the QoS description errors, read exactly as for RequestQoS.
  * See zovQMIQOSRequestQoSRespGetQoSSpecError.
  * @param msg Received message (QMUX header removed); required.
  * @param len Length of @p msg in bytes.
- * @param index Receives the index of the QoS spec in error; required.
+ * @param index Receives the index of the QoS description in error; required.
  * @param qosSpec Its @c flows and @c filters arrays (set beforehand, or null) receive the elements in error, its
  *   counts the numbers found; required.  The arrays' size is not checked.
  * @return The value length of item 0x10; ZOVQMI_ERR_ARG for a null @p msg or a null required output;
